@@ -1,0 +1,37 @@
+# SPDX-FileCopyrightText: 2026 The Quillane developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# What every target of ours is compiled with.
+function(quillane_compile_rules target)
+  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
+    QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  if(QUILLANE_SANITIZE)
+    target_compile_options(${target} PUBLIC -fsanitize=address,undefined -fno-omit-frame-pointer
+      -fno-sanitize-recover=undefined)
+    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# A room of the house: one static library, linked only with what its row names.
+#   quillane_room(name SOURCES files... LINKS libraries...)
+function(quillane_room name)
+  cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;LINKS")
+  add_library(${name} STATIC ${room_SOURCES})
+  target_link_libraries(${name} PUBLIC ${room_LINKS})
+  quillane_compile_rules(${name})
+endfunction()
+
+# The tests of a room: one program under CTest, run without a screen.
+#   quillane_test(name SOURCES files... LINKS libraries...)
+function(quillane_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;LINKS")
+  add_executable(${name} ${room_SOURCES})
+  target_link_libraries(${name} PRIVATE ${room_LINKS} test_support GTest::gmock)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  quillane_compile_rules(${name})
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()

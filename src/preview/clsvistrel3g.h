@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "preview/bounded.h"
+#include "theme/values.h"
+
+#include <QString>
+
+namespace quillane {
+
+class PreviewWorld;
+class Surface;
+
+/// The preview engine of 3G: the values of a theme, the simulated state of the phone, and the
+/// painting of its screens. It never reads a theme file.
+class clsVistrel3G {
+ public:
+  /// Starts with the default colours and no images. `world` outlives the engine.
+  explicit clsVistrel3G(PreviewWorld& world);
+
+  /// Where the next Draw operation paints; set before each. The surface outlives the drawing.
+  void setSurface(Surface& surface) { surface_ = &surface; }
+
+  const QString& color(gen3g::Color which) const { return values_.color(which); }
+  void setColor(gen3g::Color which, const QString& rgb) { values_.setColor(which, rgb); }
+  const QString& image(gen3g::Image which) const { return values_.image(which); }
+  void setImage(gen3g::Image which, const QString& path) { values_.setImage(which, path); }
+
+  /// All colours and images.
+  const ThemeValues& values() const { return values_; }
+  /// Takes over a loaded theme of 3G.
+  void takeTheme(const ThemeValues& values) { values_ = values; }
+  /// Default colours, no images.
+  void DefaultColors();
+
+  /// Whether image slots paint their images; off, they paint their colours.
+  bool DrawImages = false;
+  QString OperatorName;
+  QString TimeFormat;
+  QString DateFormat;
+  Bounded<0, 5, 5> SignalStrength;
+  Bounded<0, 10, 10> BatteryLevel;
+  Bounded<0, 1, 1> GPRSRange;
+  Bounded<1, 12, 5> DesktopIcon;
+  bool ShowGPRSIcon = false;
+
+  // Texts of the screens, most of them lists with "|" between their entries.
+  QString StandbySoftkeyText;
+  QString DesktopTitles;
+  QString DesktopSoftkeyText;
+  QString TitleText;
+  QString MenuText1;
+  QString MenuText2;
+  QString MenuSoftkeyText;
+  QString MoreListTitleText;
+  QString MoreListMenuText1;
+  QString MoreListMenuText2;
+  QString MoreListSoftkeyText;
+  QString SoftkeysMenuTitleText;
+  QString SoftkeysMenuText1;
+  QString SoftkeysMenuText2;
+  QString SoftkeysSoftkeyText;
+  QString CalendarDaysOfWeek;
+  QString CalendarSoftkeyText;
+  QString NotesText;
+  QString WapbrowserTitleText;
+  QString WapbrowserSoftkeyText;
+  QString ProgressWindowText;
+  QString AcceptWindowText;
+  QString AcceptWindowSoftkeyText;
+
+  void DrawStandby();
+  void DrawDesktop();
+  /// `index` 0 paints the first sample list with normal keys, 1 the second with an activated key.
+  void DrawSoftkeys(int index);
+
+ private:
+  PreviewWorld* world_;
+  Surface* surface_ = nullptr;
+  ThemeValues values_{Generation::ThreeG};
+};
+
+}  // namespace quillane

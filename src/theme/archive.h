@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace quillane {
+
+/// A regular member of a theme archive as the reader takes it: bare name and size in bytes.
+struct ArchiveMember {
+  QString name;
+  qint64 size = 0;
+};
+
+/// Outcome of reading an archive; code 0 is success, `archiveErrorText` has the others.
+struct ArchiveResult {
+  int code = 0;
+  /// The members in archive order, repeats included.
+  QList<ArchiveMember> members;
+};
+
+/// Extracts the regular members of a theme into `folder` under their bare names, with the member's
+/// time and mode 0644, later ones of the same name winning. Nothing is written outside the folder
+/// or through a link that lies in it. What came before an error stays in the folder.
+ArchiveResult extractArchive(const QString& themePath, const QString& folder);
+
+/// Lists the members without writing anything.
+ArchiveResult listArchive(const QString& themePath);
+
+/// The user's text for a reader's code; `fileName` is the bare name of the theme file.
+QString archiveErrorText(int code, const QString& fileName);
+
+/// Packs files into a new archive beside `themePath` and renames it over it. Members are the bare
+/// file names in lower case with their files' times, in the order given. Throws `Fault`; the old
+/// archive is then untouched.
+void packArchive(const QString& themePath, const QStringList& files);
+
+/// How the last line of an `index.txt` ends: bare in a saved theme, with CR LF from the TAR wizard.
+enum class IndexEnd { Bare, LineEnd };
+
+/// The bytes of `index.txt`: a line for each file, its lower-case name and its size in bytes as
+/// "name <size>". Throws `Fault` for a file that cannot be measured.
+QByteArray themeIndex(const QStringList& files, IndexEnd end);
+
+}  // namespace quillane

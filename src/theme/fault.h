@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <exception>
+#include <functional>
+#include <source_location>
+
+namespace quillane {
+
+/// Numbers of the faults that somebody tells apart.
+enum class FaultNumber : int {
+  BadCall = 5,
+  BadIndex = 9,
+  BadNumber = 13,
+  FileNotFound = 53,
+  DeviceFault = 57,
+  DiskFull = 61,
+  NoPermission = 70,
+  ResourceNotFound = 326,
+  BadPicture = 481,
+  DialogCancelled = 32755,  ///< A common dialog was cancelled; passed over in silence.
+};
+
+/// A step that failed: what is wrong, in words for the user, and the line that found it.
+class Fault : public std::exception {
+ public:
+  Fault(FaultNumber number, QString description,
+        std::source_location where = std::source_location::current());
+
+  FaultNumber number() const { return number_; }
+  const QString& description() const { return description_; }
+  int line() const { return line_; }
+  const char* what() const noexcept override { return what_.constData(); }
+
+ private:
+  FaultNumber number_;
+  QString description_;
+  QByteArray what_;
+  int line_;
+};
+
+/// Takes the faults that a library operation reports and goes on after.
+using FaultReporter = std::function<void(const Fault&)>;
+
+/// Runs one step of an operation that ignores errors: a `Fault` ends the step alone.
+template <typename Step>
+void skipOnFault(Step&& step) {
+  try {
+    step();
+  } catch (const Fault&) {  // NOLINT(bugprone-empty-catch): this is the ignoring itself.
+  }
+}
+
+}  // namespace quillane
