@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace quillane {
+
+namespace {
+
+QStringList matches(const QString& pattern) {
+  QString name = SplitPath(pattern, PathPart::Name);
+  if (name == QLatin1String("*.*")) name = QStringLiteral("*");
+  const QDir folder(SplitPath(pattern, PathPart::Folder));
+  QStringList paths;
+  const auto kinds = QDir::Files | QDir::Hidden | QDir::System;
+  for (const QString& entry : folder.entryList({name}, kinds))
+    paths << folder.filePath(entry);
+  return paths;
+}
+
+}  // namespace
+
+bool FileExists(const QString& path) {
+  const QFileInfo file(path);
+  if (file.exists()) return !file.isDir();
+  const QString name = SplitPath(path, PathPart::Name);
+  const bool isPattern = name.contains(QLatin1Char('*')) || name.contains(QLatin1Char('?'));
+  return isPattern && !matches(path).isEmpty();
+}
+
+bool FolderExists(const QString& path) {
+  return !path.isEmpty() && QFileInfo(path).isDir();
+}
+
+void DeleteFiles(const QString& pattern) {
+  for (const QString& path : matches(pattern))
+    QFile::remove(path);
+}
+
+QString SplitPath(const QString& path, PathPart part) {
+  const qsizetype behind = path.lastIndexOf(QLatin1Char('/')) + 1;
+  return part == PathPart::Name ? path.mid(behind) : path.left(behind);
+}
+
+QString sizeText(qint64 bytes) {
+  const QString kilobytes = QString::number(static_cast<double>(bytes) / 1024.0, 'f', 1);
+  return QStringLiteral("%1 KB (%2 bytes)").arg(kilobytes).arg(bytes);
+}
+
+QString FormatFileSize(const QString& path) {
+  const QFileInfo file(path);
+  return file.isFile() ? sizeText(file.size()) : QString();
+}
+
+QString withSeparator(const QString& folder) {
+  return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
+
+}  // namespace quillane

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace quillane {
+
+/// Reads a value of an INI file in the 8-bit code page: sections in brackets, one key=value a line,
+/// names in any letter case, the first match counting. Values are trimmed of blanks and one pair of
+/// quotes and cut at 254 characters. A missing file, section or key gives `standard`.
+QString ReadIni(const QString& section, const QString& key, const QString& standard,
+                const QString& file);
+
+}  // namespace quillane

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/modmain.h"
+
+#include "shell/files.h"
+#include "shell/language.h"
+#include "shell/places.h"
+#include "shell/seed.h"
+#include "shell/settings.h"
+#include "shell/state.h"
+
+#include <QDir>
+#include <QImageWriter>
+
+namespace quillane {
+
+namespace {
+
+bool isTooSmall(QSize screen) {
+  return screen.height() < 600 && screen.width() < 800;
+}
+
+void prepareWorkFolder(PublicState& state, const QString& programFolder) {
+  state.AppTempFolder = programFolder + QLatin1String("temp/");
+  if (!QDir().mkpath(state.AppTempFolder))
+    throw Fault(
+        FaultNumber::NoPermission,
+        QStringLiteral("The folder \"%1\" cannot be made. Themes cannot be shown without it; "
+                       "allow writing to \"%2\" and start again.")
+            .arg(state.AppTempFolder, programFolder));
+  DeleteFiles(state.AppTempFolder + QLatin1String("*.*"));
+  const QString left = state.AppTempFolder + QLatin1String("new");
+  if (!FolderExists(left)) return;
+  DeleteFiles(left + QLatin1String("/*.*"));
+  QDir().rmdir(left);
+}
+
+/// A folder setting, the variable it fills, and the folder it defaults to.
+struct FolderSetting {
+  const Setting& setting;
+  QString PublicState::*variable;
+  enum class Default { MyThemes, ThemesFolder, ProgramFolder } standard;
+};
+
+using Default = FolderSetting::Default;
+constexpr FolderSetting kFolders[] = {
+    {setting::ThemesFolder, &PublicState::ThemesFolder, Default::MyThemes},
+    {setting::CopyMoveFolder, &PublicState::CopyMoveFolder, Default::ThemesFolder},
+    {setting::BrowseFolder, &PublicState::BrowseFolder, Default::ThemesFolder},
+    {setting::ImageFolder, &PublicState::ImageFolder, Default::ProgramFolder},
+    {setting::CaptureFolder, &PublicState::CaptureFolder, Default::ProgramFolder},
+    {setting::ExtractFolder, &PublicState::ExtractFolder, Default::ProgramFolder},
+    {setting::ExportFolder, &PublicState::ExportFolder, Default::ProgramFolder},
+    {setting::ImportFolder, &PublicState::ImportFolder, Default::ProgramFolder},
+    {setting::TARWizFilesFolder, &PublicState::TARWizFilesFolder, Default::ProgramFolder},
+    {setting::ImageWizOpenFolder, &PublicState::ImageWizOpenFolder, Default::ProgramFolder},
+    {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder, Default::ProgramFolder},
+};
+
+QString standardFolder(Default standard, const PublicState& state, const QString& programFolder) {
+  switch (standard) {
+    case Default::MyThemes:
+      return programFolder + QLatin1String("My Themes/");
+    case Default::ThemesFolder:
+      return state.ThemesFolder;
+    case Default::ProgramFolder:
+      break;
+  }
+  return programFolder;
+}
+
+void readFolders(PublicState& state, const SettingsStore& settings, const QString& programFolder) {
+  for (const FolderSetting& row : kFolders) {
+    QString folder = settings.read(row.setting);
+    if (folder.isEmpty()) folder = standardFolder(row.standard, state, programFolder);
+    state.*row.variable = FolderExists(folder) ? withSeparator(folder) : programFolder;
+  }
+}
+
+void readSwitches(PublicState& state, const SettingsStore& settings, const FaultReporter& report) {
+  state.UserPalette = settings.read(setting::UserPalette);
+  state.DisableETT = flagSetting(settings, setting::DisableETT, report);
+  state.IncludeIndexFile = flagSetting(settings, setting::IncludeIndexFile, report);
+  state.CompressXMLCode = flagSetting(settings, setting::CompressXMLCode, report);
+  state.SmartLAImage = flagSetting(settings, setting::SmartLAImage, report);
+}
+
+void readActive(PublicState& state, const SettingsStore& settings, const FaultReporter& report) {
+  state.ActiveSignal = flagSetting(settings, setting::ActiveSignal, report);
+  state.ActiveDesktop = flagSetting(settings, setting::ActiveDesktop, report);
+  state.ActiveBattery = flagSetting(settings, setting::ActiveBattery, report);
+}
+
+bool pictureWritersPresent() {
+  const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
+  return formats.contains("jpeg") && formats.contains("png");
+}
+
+void setLanguageFiles(PublicState& state, const SettingsStore& settings,
+                      const QString& programFolder) {
+  state.ConfigFolder2 = programFolder + QLatin1String("Vistrel Config/2/");
+  state.LanguageFile2 = settings.read(setting::LanguageFile2);
+  state.ConfigFolder3G = programFolder + QLatin1String("Vistrel Config/3G/");
+  state.LanguageFile3G = settings.read(setting::LanguageFile3G);
+}
+
+void makeEngines(PublicState& state, const SettingsStore& settings, PreviewWorld& world,
+                 const FaultReporter& report) {
+  state.PreviewEngine2 = std::make_unique<clsVistrel>(world);
+  state.EditorEngine2 = std::make_unique<clsVistrel>(world);
+  state.PreviewEngine3G = std::make_unique<clsVistrel3G>(world);
+  state.EditorEngine3G = std::make_unique<clsVistrel3G>(world);
+  // The second engine of a generation reads the same settings; its faults would say the same again.
+  const FaultReporter quiet = [](const Fault&) {};
+  InitPreview2(*state.PreviewEngine2, state, settings, report);
+  InitPreview2(*state.EditorEngine2, state, settings, quiet);
+  InitPreview3G(*state.PreviewEngine3G, state, settings, report);
+  InitPreview3G(*state.EditorEngine3G, state, settings, quiet);
+}
+
+void showSenderIcon(PublicState& state, const SettingsStore& settings, const QString& systemFolder,
+                    const FaultReporter& report) {
+  if (findSender(systemFolder).isEmpty()) return;
+  if (!flagSetting(settings, setting::ShowIRIcon, report)) return;
+  state.PreviewEngine2->ShowIRIcon = true;
+  state.EditorEngine2->ShowIRIcon = true;
+}
+
+}  // namespace
+
+bool Main(PublicState& state, const SettingsStore& settings, const Places& places,
+          PreviewWorld& world, StartScreen& screen, const FaultReporter& report) {
+  if (isTooSmall(screen.screenSize())) {
+    screen.stop(
+        QStringLiteral("Quillane was not designed to run\r\n"
+                       "on screen resolution lower then 800x600."));
+    return false;
+  }
+  screen.showSplash();
+  const QString programFolder = withSeparator(places.programFolder);
+  prepareWorkFolder(state, programFolder);
+  seedProgramFolder(places, report);
+  readFolders(state, settings, programFolder);
+  readSwitches(state, settings, report);
+  state.IViewPresent = pictureWritersPresent();
+  setLanguageFiles(state, settings, programFolder);
+  screen.setStatus(QStringLiteral("Status: Initializing preview engines..."));
+  makeEngines(state, settings, world, report);
+  showSenderIcon(state, settings, places.systemFolder, report);
+  readActive(state, settings, report);
+  screen.setStatus(QStringLiteral("Status: Loading browser..."));
+  screen.loadBrowser();
+  screen.unloadSplash();
+  return true;
+}
+
+}  // namespace quillane

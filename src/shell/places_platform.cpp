@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/places.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace quillane {
+
+namespace {
+
+// Programs of freedesktop systems that take file paths and ask for the phone themselves.
+constexpr const char* kSenders[] = {"bluetooth-sendto", "blueman-sendto"};
+
+QString programFolder() {
+  const QString home = qEnvironmentVariable("QUILLANE_HOME");
+  if (!home.isEmpty()) return QDir(home).absolutePath();
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+         QLatin1String("/quillane");
+}
+
+}  // namespace
+
+Places placesOfDesktop(const QString& applicationFolder) {
+  const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return {programFolder(), QDir::cleanPath(applicationFolder + QLatin1String("/../share/quillane")),
+          QStringLiteral("/usr/bin"), config + QLatin1String("/Quillane/Quillane 3G.ini")};
+}
+
+QString findSender(const QString& systemFolder) {
+  for (const char* sender : kSenders) {
+    const QString path = systemFolder + QLatin1Char('/') + QLatin1String(sender);
+    const QFileInfo program(path);
+    if (program.isFile() && program.isExecutable()) return path;
+  }
+  return {};
+}
+
+}  // namespace quillane
