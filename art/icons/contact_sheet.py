@@ -103,7 +103,8 @@ def grid(images, columns):
     count = math.ceil(len(images) / columns)
     sheet = Image.new("RGB", (width * columns, height * count), "#808080")
     for index, image in enumerate(images):
-        sheet.paste(image, (index % columns * width, index // columns * height))
+        row, column = divmod(index, columns)
+        sheet.paste(image, (column * width, row * height))
     return sheet
 
 
@@ -140,7 +141,6 @@ def main():
                                for i in range(13)], 5)}
     for name, image in screens.items():
         enlarge(image, 3).save(folder / f"{name}.png")
-
 
 
 if __name__ == "__main__":

@@ -159,19 +159,6 @@ def star(cx, cy, outer, inner, count, turn=-90.0):
     return polygon(*points)
 
 
-def gear(cx, cy, outer, inner, teeth, tooth=0.5, turn=0.0):
-    """A toothed wheel; tooth is the share of the pitch a tooth takes."""
-    def inside(x, y):
-        d = math.hypot(x - cx, y - cy)
-        if d <= inner:
-            return True
-        phase = (math.degrees(math.atan2(y - cy, x - cx)) - turn) * teeth / 360
-        off = abs(phase - round(phase))
-        narrow = 1.0 - 0.35 * (d - inner) / (outer - inner)
-        return d <= outer and off <= tooth / 2 * narrow * 1.2
-    return shape(inside, (cx - outer, cy - outer, cx + outer, cy + outer))
-
-
 def drawn(x, y, rows, marks="#"):
     """Mask from text rows: every character found in marks is a pixel."""
     return {(x + i, y + j) for j, row in enumerate(rows)
@@ -272,27 +259,34 @@ class Canvas:
 
 
 def muted(colour, saturation, lift):
-    """A colour made paler, for symbols that are not selected."""
+    """A colour made paler, for symbols that are not selected.
+
+    Dark colours are lifted less, so that outlines stay crisp.
+    """
     r, g, b = colour
     grey = round(0.30 * r + 0.59 * g + 0.11 * b)
     pale = tuple(round(grey + (c - grey) * saturation) for c in colour)
-    return mix(pale, (206, 212, 226), lift)
+    return mix(pale, (206, 212, 226), lift * (0.4 + 0.6 * grey / 255))
 
 
 def plate(width, height, rim, ring, top, bottom, cut=4, gloss=None, step=1.0):
     """The opaque tile behind a selected symbol: rim, bright ring, face."""
+    def inner(mask):
+        return {(x, y) for x, y in mask if rect(x - 1, y - 1, 3, 3) <= mask}
+
     canvas = Canvas(width, height, step)
     face = rounded(0, 0, width, height, cut)
     canvas.put(face, rim)
     for colour in ring:
-        face = {p for p in face if grown({p}) <= face}
+        face = inner(face)
         canvas.put(face, colour)
-    face = {p for p in face if grown({p}) <= face}
+    face = inner(face)
     y0, y1 = bounds(face)[1], bounds(face)[3]
     for x, y in face:
         part = (y - y0) / (y1 - y0)
         colour = mix(rgb(top), rgb(bottom), round(part * 8) / 8)
-        if gloss and y - y0 < (y1 - y0) * 0.42 - ((x - width / 2) / width) ** 2 * 6:
+        bend = 6 * ((x - width / 2) / width) ** 2
+        if gloss and y - y0 < (y1 - y0) * 0.42 - bend:
             colour = mix(colour, WHITE, gloss)
         canvas.put({(x, y)}, colour)
     return canvas

@@ -10,7 +10,7 @@ import math
 
 from kit import (BLUE, CREAM, DARK, GOLD, GREEN, LIME, ORANGE, PAPER, PINK,
                  RED, SKY, STEEL, TEAL, VIOLET, Canvas, Material, arc_points,
-                 board, drawn, ellipse, gear, mix, plate, polygon, rect, rgb,
+                 board, drawn, ellipse, mix, plate, polygon, rect, rgb,
                  rounded, selected, shape, star, stroke)
 
 BOARD_SIZE = (128, 127)
@@ -50,8 +50,8 @@ def internet(c):
                                   0, 180 * bend), 0.9)
     c.ball(grid & globe, Material("#1456b4", light="#2f80d8", shine="#58a8f0"),
            (cx, cy), (r, r), line=False)
-    c.panel(polygon((22, 9), (22, 21.4), (24.8, 18.8), (27, 22.4), (29.2, 21.2),
-                    (27.4, 17.8), (31, 17.6)), PAPER, fall=0.5)
+    c.panel(polygon((22, 9), (22, 21.4), (24.8, 18.8), (27, 22.4),
+                    (29.2, 21.2), (27.4, 17.8), (31, 17.6)), PAPER, fall=0.5)
 
 
 def shortcuts(c):
@@ -75,7 +75,7 @@ def camera(c):
     c.put(rect(30, 10, 2, 2), RED.tones[2])
     c.ball(ellipse(20, 14.5, 6.0), DARK)
     c.ball(ellipse(20, 14.5, 4.2), BLUE)
-    c.put(ellipse(20.5, 15, 1.7), BLUE.line)
+    c.put(rect(20, 14, 2, 2), BLUE.line)
     c.put({(18, 12), (19, 12), (18, 13)}, "#ffffff")
 
 
@@ -100,8 +100,8 @@ def entertainment(c):
     c.panel(rounded(7, 16, 26, 6, 2), DARK, fall=0.6, gloss=0.8)
     c.panel(ellipse(19, 16, 6, 2.0), STEEL, fall=0.6)
     c.panel(stroke([(18.5, 9), (19, 15.5)], 2.6), STEEL, fall=0.6)
-    c.ball(ellipse(18.5, 7, 4.6), RED)
-    c.put(ellipse(17, 5.4, 1.2), "#fff2ea")
+    c.ball(ellipse(18.5, 7.5, 4.5), RED)
+    c.put(rect(16, 5, 2, 2), "#fff2ea")
     c.ball(ellipse(29, 16, 2.4, 1.8), GOLD)
     c.ball(ellipse(10.5, 17, 1.8, 1.4), LIME)
 
@@ -132,17 +132,31 @@ def phonebook(c):
     c.put(rect(12, 4, 1, 16), BLUE.tones[1])
     for y in (5, 10, 15):
         c.panel(rect(7, y, 5, 2), STEEL, fall=0, edge=0.9)
-    c.put(ellipse(20.5, 8.4, 2.9), INK)
+    c.put(rounded(18, 5, 5, 6), INK)
     c.put(polygon((15.2, 18), (15.2, 15), (17.6, 12.4), (23.4, 12.4),
                   (25.8, 15), (25.8, 18)), INK)
     c.put(rect(15, 17, 11, 1), "#c4d4f4")
 
 
 def calls(c):
-    handset = (stroke(arc_points(28.5, -1.0, 18.0, 18.0, 102, 164), 4.8)
-               | stroke([(10.0, 6.6), (13.8, 5.2)], 5.6)
-               | stroke([(23.0, 18.6), (24.4, 15.0)], 5.6))
-    c.panel(handset, GREEN, fall=1.1, gloss=0.4)
+    c.panel(drawn(5, 4, ["...####.............",
+                         ".########...........",
+                         "##########..........",
+                         "##########..........",
+                         "#########...........",
+                         "########............",
+                         ".######.............",
+                         ".######.............",
+                         "..######............",
+                         "..#######...........",
+                         "...#######...###....",
+                         "....#######.######..",
+                         ".....###############",
+                         "......##############",
+                         ".......#############",
+                         ".........##########.",
+                         "...........#######..",
+                         ".............###...."]), GREEN, fall=1.3)
     arrow = ["....#......",
              "...##......",
              "..#########",
@@ -150,8 +164,8 @@ def calls(c):
              "..#########",
              "...##......",
              "....#......"]
-    c.panel(drawn(20, 2, arrow), ORANGE, fall=0.5, edge=0.8)
-    c.panel(drawn(24, 9, [row[::-1] for row in arrow]), BLUE, fall=0.5,
+    c.panel(drawn(19, 3, arrow), ORANGE, fall=0.5, edge=0.8)
+    c.panel(drawn(23, 9, [row[::-1] for row in arrow]), BLUE, fall=0.5,
             edge=0.8)
 
 
@@ -161,11 +175,11 @@ def connectivity(c):
     c.panel(rect(9, 8, 5, 5), SKY, line=False, fall=0.8, edge=0.4)
     c.put({(x, y) for x in (9, 11, 13) for y in (15, 17, 19)},
           VIOLET.tones[4])
-    c.panel(rounded(22, 7, 12, 10, 1), STEEL, fall=0.6)
-    c.panel(rect(24, 9, 8, 6), BLUE, line=False, fall=1.4, edge=0.4)
-    c.panel(polygon((21, 18), (33, 18), (35, 22), (19, 22)), STEEL, fall=0.6)
-    c.put(rect(22, 19, 11, 1), STEEL.tones[1])
-    c.panel(drawn(17, 2, ["...###",
+    c.panel(rounded(23, 7, 11, 10, 1), STEEL, fall=0.6)
+    c.panel(rect(25, 9, 7, 6), BLUE, line=False, fall=1.4, edge=0.4)
+    c.panel(polygon((22, 18), (34, 18), (36, 22), (20, 22)), STEEL, fall=0.6)
+    c.put(rect(23, 19, 11, 1), STEEL.tones[1])
+    c.panel(drawn(17, 3, ["...###",
                           "..###.",
                           ".###..",
                           "######",
@@ -186,6 +200,8 @@ def organizer(c):
         for column in range(5):
             if (column, row) != (0, 0):
                 c.put(rect(10 + 4 * column, 12 + 3 * row, 2, 2), "#92a0bc")
+    c.put(rect(13, 14, 4, 4), ORANGE.tones[2])
+    c.put(rect(14, 15, 2, 2), ORANGE.tones[4])
     c.ball(ellipse(28.5, 16.5, 5.4), TEAL)
     c.ball(ellipse(28.5, 16.5, 3.9), PAPER, line=False)
     c.put(rect(28, 13, 1, 4) | rect(28, 16, 3, 1), "#1c2238")

@@ -84,10 +84,16 @@ def sky(x, y):
     return colour
 
 
-def stars(x, y):
-    return (int(x), int(y)) in {(7, 4), (19, 9), (34, 3), (51, 7), (63, 2),
-                                (77, 6), (88, 3), (101, 9), (45, 13),
-                                (94, 14), (13, 15)}
+STARS = [(7, 4), (34, 3), (77, 6), (101, 9), (51, 7), (19, 9), (63, 2),
+         (88, 3), (45, 13), (94, 14), (13, 15), (26, 5), (70, 11), (106, 2)]
+
+
+def star(x, y):
+    """Colour of a star: the first ones bright, the others dimmer."""
+    at = (int(x), int(y))
+    if at not in STARS:
+        return None
+    return rgb("#fff6e0" if STARS.index(at) < 4 else "#a8a0d8")
 
 
 def facing_sun(x, y):
@@ -138,9 +144,7 @@ def land(x, y):
         glow = math.exp(-((x - SUN[0]) / 22) ** 2)
         return mix(mix(rgb("#7c5c9c"), rgb("#e88c7c"), 0.7 * glow),
                    rgb("#f0a488"), haze * 0.7)
-    if stars(x, y):
-        return rgb("#e8e4ff")
-    return sky(x, y)
+    return star(x, y) or sky(x, y)
 
 
 def lake(x, y):
@@ -226,7 +230,7 @@ def point(x, y):
 
 
 def picture():
-    """The scene as a palette image with at most 160 colours."""
+    """The scene as a palette image with at most 224 colours."""
     image = Image.new("RGB", (WIDTH, HEIGHT))
     offsets = [(i + 0.5) / FINE for i in range(FINE)]
     for y in range(HEIGHT):
@@ -234,6 +238,6 @@ def picture():
             parts = [point(x + i, y + j) for i in offsets for j in offsets]
             image.putpixel((x, y), tuple(
                 round(sum(channel) / len(parts)) for channel in zip(*parts)))
-    palette = image.quantize(160, Image.Quantize.MEDIANCUT)
+    palette = image.quantize(224, Image.Quantize.MEDIANCUT, kmeans=3)
     return image.quantize(palette=palette,
                           dither=Image.Dither.FLOYDSTEINBERG)

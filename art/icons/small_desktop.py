@@ -3,13 +3,14 @@
 
 """Desktop of the small phone: board 1000 and selected symbols 1001-1009."""
 
-from kit import (BLUE, CREAM, DARK, GOLD, GREEN, ORANGE, PAPER, RED, SKY,
-                 STEEL, VIOLET, Canvas, arc_points, board, drawn, ellipse,
-                 gear, plate, polygon, rect, rounded, selected, star, stroke)
+from kit import (BLUE, CREAM, GOLD, GREEN, ORANGE, PAPER, RED, SKY, STEEL,
+                 VIOLET, Canvas, arc_points, board, drawn, ellipse, plate,
+                 polygon, rect, rounded, selected, star, stroke)
 
 BOARD_SIZE = (101, 80)
 CELLS = [(x, y) for y in (14, 35, 56) for x in (1, 34, 67)]
 WIDTH = 33
+WHITE_INK = "#f4f8ff"
 
 
 def height(cell):
@@ -24,12 +25,9 @@ def phone_book(c):
     c.put(rect(10, 4, 1, 13), BLUE.tones[1])
     for y in (5, 9, 13):
         c.panel(rect(6, y, 4, 2), PAPER, fall=0, edge=0.8)
-    c.put(ellipse(17, 7.5, 2.5), WHITE_INK)
+    c.put(rounded(15, 5, 5, 5), WHITE_INK)
     c.put(polygon((12.5, 16), (12.5, 13), (14.5, 11), (19.5, 11),
                   (21.5, 13), (21.5, 16)), WHITE_INK)
-
-
-WHITE_INK = "#f4f8ff"
 
 
 def messages(c):
@@ -82,7 +80,7 @@ def games(c):
 
 
 def settings(c):
-    c.panel(drawn(5, 3, ["......###......",
+    c.panel(drawn(4, 3, ["......###......",
                          "..##..###..##..",
                          ".####.###.####.",
                          ".#############.",
@@ -97,21 +95,23 @@ def settings(c):
                          ".####.###.####.",
                          "..##..###..##..",
                          "......###......"]), STEEL, fall=1.4)
-    c.put(ellipse(12.5, 10.5, 2.5), STEEL.line)
-    c.panel(drawn(19, 9, ["...###...",
-                          ".#.###.#.",
-                          "..#####..",
-                          "#########",
-                          "#########",
-                          "#########",
-                          "..#####..",
-                          ".#.###.#.",
-                          "...###..."]), GOLD, fall=1.2)
-    c.put(rect(22, 13, 3, 1) | rect(23, 12, 1, 3), GOLD.line)
+    c.put(ellipse(11.5, 10.5, 2.5), STEEL.line)
+    c.panel(drawn(18, 7, ["....###....",
+                          ".##.###.##.",
+                          ".#########.",
+                          "..#######..",
+                          "###########",
+                          "###########",
+                          "###########",
+                          "..#######..",
+                          ".#########.",
+                          ".##.###.##.",
+                          "....###...."]), GOLD, fall=1.2)
+    c.put(rect(22, 11, 3, 3), GOLD.line)
 
 
 def internet(c):
-    ring = dict(cx=16.5, cy=10.5, rx=12, ry=4.2, tilt=-24)
+    ring = dict(cx=16.5, cy=10.5, rx=11.8, ry=4.0, tilt=-22)
     c.panel(stroke(arc_points(start=180, end=360, **ring), 1.6), ORANGE,
             fall=0.4, edge=0.4)
     globe = ellipse(16.5, 10.5, 7.5)
@@ -161,15 +161,14 @@ def connect(c):
 
 
 def shortcuts(c):
-    c.panel(star(14.5, 11, 9.4, 4.2, 5), GOLD, fall=1.3)
-    c.panel(rounded(18, 9, 9, 9), PAPER, fall=0.4)
-    c.put(drawn(19, 10, ["...#...",
-                         "...##..",
-                         ".#####.",
-                         "##.##..",
-                         "#..#...",
-                         "#......",
-                         "......."]), BLUE.tones[2])
+    c.panel(star(14.5, 11, 9.6, 4.3, 5), GOLD, fall=1.3)
+    c.panel(rounded(19, 10, 9, 8), PAPER, fall=0.4, edge=0.6)
+    c.put(drawn(20, 11, ["....#..",
+                         "....##.",
+                         ".######",
+                         "##..##.",
+                         "#...#..",
+                         "#......"]), "#1c50c8")
 
 
 SYMBOLS = [phone_book, messages, calls, games, settings, internet, organizer,

@@ -43,14 +43,15 @@ def small_battery(level):
 
 
 def large_battery(level):
-    """18x9: silver case round a dark well, one column per level."""
+    """18x9: silver case (red when empty), dark well, a column per level."""
     c = Canvas(18, 9, 0.5)
     c.put(rounded(0, 0, 16, 9), INK)
     c.put(rect(16, 2, 2, 5) - {(17, 2), (17, 6)}, INK)
-    c.put(rect(16, 3, 1, 3), "#c8d0e0")
-    c.put(rect(1, 1, 14, 7), "#aab4ca")
-    c.put(rect(1, 1, 14, 1) | rect(1, 1, 1, 7), "#f4f7ff")
-    c.put(rect(2, 2, 12, 5), "#b41c2c" if level == 0 else "#28304c")
+    lit, dim = ("#f4f7ff", "#aab4ca") if level else ("#ff7868", "#d02c34")
+    c.put(rect(16, 3, 1, 3), dim)
+    c.put(rect(1, 1, 14, 7), dim)
+    c.put(rect(1, 1, 14, 1) | rect(1, 1, 1, 7), lit)
+    c.put(rect(2, 2, 12, 5), "#28304c")
     paint = charge(level)
     tones = [paint.tone(v, 0.5) for v in (3, 3.5, 2.5, 2, 1.5)]
     for row, tone in enumerate(tones):
@@ -144,15 +145,15 @@ def joystick():
     """11x11: four arrows round a button, between the soft keys."""
     c = Canvas(11, 11)
     c.text(0, 0, ["....KKK....",
-                  "...KWWWK...",
-                  "..KKKWKKK..",
+                  "...KKWKK...",
+                  "..KKWWWKK..",
                   ".KKKKKKKKK.",
-                  "KWKKLBBKKWK",
+                  "KKWKLBBKWKK",
                   "KWWKBBBKWWK",
-                  "KWKKBBDKKWK",
+                  "KKWKBBDKWKK",
                   ".KKKKKKKKK.",
-                  "..KKKWKKK..",
-                  "...KWWWK...",
+                  "..KKWWWKK..",
+                  "...KKWKK...",
                   "....KKK...."],
            {"K": rgb(INK), "W": rgb("#f2f5fc"), "L": SKY.tones[4],
             "B": SKY.tones[2], "D": SKY.tones[1]})
