@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browser/frmbrowser.h"
+#include "forms/dialogs.h"
+#include "forms/eventprocedure.h"
+#include "forms/frmsplash.h"
+#include "shell/modmain.h"
+#include "shell/places.h"
+#include "shell/settings.h"
+#include "shell/state.h"
+#include "shell/systemworld.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QLockFile>
+#include <QScreen>
+
+#include <memory>
+
+namespace quillane {
+
+namespace {
+
+/// The screen of the desktop, on which the start shows its splash and then the browser.
+class DesktopScreen : public StartScreen {
+ public:
+  DesktopScreen(Dialogs& dialogs, std::function<std::unique_ptr<frmBrowser>()> makeBrowser)
+      : dialogs_(dialogs), makeBrowser_(std::move(makeBrowser)) {}
+
+  QSize screenSize() override { return QGuiApplication::primaryScreen()->size(); }
+  void stop(const QString& text) override {
+    dialogs_.message(nullptr, MessageIcon::Stop, QString(), text);
+  }
+  void showSplash() override {
+    splash_ = std::make_unique<frmSplash>();
+    splash_->show();
+    QCoreApplication::processEvents();
+  }
+  void setStatus(const QString& text) override { splash_->setStatus(text); }
+  void loadBrowser() override { browser_ = makeBrowser_(); }
+  void unloadSplash() override { splash_.reset(); }
+
+ private:
+  Dialogs& dialogs_;
+  std::function<std::unique_ptr<frmBrowser>()> makeBrowser_;
+  std::unique_ptr<frmSplash> splash_;
+  std::unique_ptr<frmBrowser> browser_;
+};
+
+/// The command line as one text, as a person typed it: themes with blanks need no quotes.
+QString commandLine() {
+  return QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
+}
+
+bool isAlone(QLockFile& lock) {
+  lock.setStaleLockTime(0);
+  return lock.tryLock(0) || lock.error() != QLockFile::LockFailedError;
+}
+
+int run() {
+  DesktopDialogs dialogs;
+  const FaultReporter report = [&dialogs](const Fault& fault) {
+    showFault(dialogs, nullptr, fault, QStringLiteral("in Quillane.modMain.Main "));
+  };
+  const Places places = placesOfDesktop(QCoreApplication::applicationDirPath());
+  QDir().mkpath(places.programFolder);
+  QLockFile lock(places.programFolder + QLatin1String("/quillane.lock"));
+  if (!isAlone(lock)) return 0;
+
+  SystemWorld world;
+  PublicState state;
+  IniSettings settings(places.settingsFile, report);
+  DesktopScreen screen(dialogs, [&] {
+    return std::make_unique<frmBrowser>(state, settings, dialogs, world, commandLine());
+  });
+  try {
+    if (!Main(state, settings, places, world, screen, report)) return 1;
+  } catch (const Fault& fault) {
+    report(fault);
+    return 1;
+  }
+  return QCoreApplication::exec();
+}
+
+}  // namespace
+
+}  // namespace quillane
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Quillane"));
+  QApplication::setDesktopFileName(QStringLiteral("quillane"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillane-128.png")));
+  return quillane::run();
+}

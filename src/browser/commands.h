@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+class QObject;
+class QWidget;
+
+namespace quillane {
+
+/// Gives the buttons of the browser's tool row their pictures.
+void dressButtons(QWidget& browser);
+
+/// Whether the command of a button or menu item of the browser, by its `objectName`, can be run in
+/// this version. One that cannot stays disabled whatever is selected.
+bool isCommandThere(const QString& control);
+
+/// Enables the menu items that follow the selection: how many themes are selected, and whether the
+/// only one could not be shown.
+void enableMenuItems(QWidget& browser, int selectedCount, bool themeFailed);
+
+/// Disables every button and menu item whose command is not there.
+void disableAwaited(QWidget& browser);
+
+}  // namespace quillane

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browser/frmbrowser.h"
+
+#include "browser/commands.h"
+#include "forms/bevel.h"
+#include "forms/dialogs.h"
+#include "forms/eventprocedure.h"
+#include "forms/formicons.h"
+#include "shell/files.h"
+#include "shell/settings.h"
+#include "shell/state.h"
+#include "ui_frmbrowser.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMenu>
+
+namespace quillane {
+
+namespace {
+
+const QString kTag = QStringLiteral("in Quillane.frmBrowser.Form_Load ");
+
+/// A folder variable that the end of the program writes to the settings.
+struct KeptFolder {
+  const Setting& setting;
+  QString PublicState::*variable;
+};
+
+constexpr KeptFolder kKeptFolders[] = {
+    {setting::BrowseFolder, &PublicState::BrowseFolder},
+    {setting::CaptureFolder, &PublicState::CaptureFolder},
+    {setting::ExtractFolder, &PublicState::ExtractFolder},
+    {setting::ExportFolder, &PublicState::ExportFolder},
+    {setting::ImageFolder, &PublicState::ImageFolder},
+    {setting::TARWizFilesFolder, &PublicState::TARWizFilesFolder},
+    {setting::ImageWizOpenFolder, &PublicState::ImageWizOpenFolder},
+    {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder},
+};
+
+/// Where the separators of the tool row stand, as shadow lines with a light line behind.
+constexpr int kToolSeparators[] = {75, 160, 245, 304, 389};
+
+bool isQuoted(const QString& commandLine) {
+  return commandLine.contains(QLatin1Char('"'));
+}
+
+/// The path that a command line names, absolute.
+QString themePath(const QString& commandLine) {
+  if (commandLine.isEmpty()) return {};
+  const QString path =
+      isQuoted(commandLine) ? commandLine.mid(1, commandLine.size() - 2) : commandLine;
+  return QFileInfo(path).absoluteFilePath();
+}
+
+}  // namespace
+
+frmBrowser::frmBrowser(PublicState& state, SettingsStore& settings, Dialogs& dialogs,
+                       PreviewWorld& world, const QString& commandLine)
+    : ui_(std::make_unique<Ui::frmBrowser>()),
+      state_(state),
+      settings_(settings),
+      dialogs_(dialogs),
+      world_(world),
+      mnuPopup_(new QMenu(this)),
+      mnuPopup3_(new QMenu(this)),
+      mnuPopup2_(new QMenu(this)) {
+  ui_->setupUi(this);
+  connectSignals();
+  Form_Load(commandLine);
+}
+
+frmBrowser::~frmBrowser() = default;
+
+void frmBrowser::Form_Load(const QString& commandLine) {
+  const QString path = themePath(commandLine);
+  const QString folder = SplitPath(path, PathPart::Folder);
+  if (!path.isEmpty() && FolderExists(folder)) state_.BrowseFolder = withSeparator(folder);
+
+  dressButtons(*this);
+  makePaneMenus();
+  Tips = std::make_unique<cTooltips>(ui_->picToolTip);
+  ui_->filFiles->setEnding(QStringLiteral(".thm"));
+  ui_->filFiles->setPath(state_.BrowseFolder);
+  eventProcedure(dialogs_, this, kTag, [this] { ui_->filFiles->refresh(); });
+  showCaption();
+  showThemeCount();
+  ui_->lblSize->clear();
+  updateMenus();
+  ui_->filFiles->setFocus();
+  if (!path.isEmpty()) selectFromCommandLine(commandLine, path);
+  setFixedSize(sizeHint());
+  show();
+}
+
+// A quoted path keeps its letter case while the names of the list are lowered, so one with capitals
+// opens its folder and selects nothing.
+void frmBrowser::selectFromCommandLine(const QString& commandLine, const QString& path) {
+  if (!FileExists(path)) {
+    dialogs_.message(this, MessageIcon::Warning, QString(),
+                     QStringLiteral("Theme %1 could not been found.").arg(commandLine));
+    return;
+  }
+  const QString name = SplitPath(path, PathPart::Name);
+  const QString wanted = isQuoted(commandLine) ? name : name.toLower();
+  for (int index = 0; index < ui_->filFiles->listCount(); ++index) {
+    if (ui_->filFiles->item(index).toLower() != wanted) continue;
+    ui_->filFiles->setSelected(index, true);
+    return;
+  }
+}
+
+void frmBrowser::Form_Paint(Bevel& bevel) {
+  const int width = ui_->area->width();
+  DrawEtchedLine(bevel, width, 0);
+  // Grip of the tool row.
+  bevel.light(3, 6, 3, 26);
+  bevel.shadow(5, 6, 5, 26);
+  bevel.light(3, 6, 5, 6);
+  bevel.shadow(3, 25, 5, 25);
+  DrawEtchedLine(bevel, width, 30);
+  for (const int x : kToolSeparators) {
+    bevel.shadow(x, 6, x, 26);
+    bevel.light(x + 1, 6, x + 1, 26);
+  }
+  // Status panel of the counts.
+  bevel.shadow(1, 461, width - 26, 461);
+  bevel.shadow(1, 461, 1, 480);
+  bevel.light(1, 480, width - 25, 480);
+  bevel.light(654, 461, 654, 480);
+  // Status panel of the failure icon.
+  bevel.shadow(657, 461, width - 2, 461);
+  bevel.shadow(657, 461, 657, 480);
+  bevel.light(657, 480, width - 2, 480);
+  bevel.light(width - 2, 461, width - 2, 481);
+}
+
+void frmBrowser::closeEvent(QCloseEvent* event) {
+  if (!unloaded_) Form_Unload();
+  unloaded_ = true;
+  event->accept();
+}
+
+void frmBrowser::Form_Unload() {
+  Tips.reset();
+  state_.PreviewEngine2.reset();
+  state_.EditorEngine2.reset();
+  DeleteFiles(state_.AppTempFolder + QLatin1String("*.*"));
+  for (const KeptFolder& kept : kKeptFolders)
+    settings_.write(kept.setting, state_.*kept.variable);
+}
+
+void frmBrowser::keyPressEvent(QKeyEvent* event) {
+  state_.ShiftDown = event->modifiers().testFlag(Qt::ShiftModifier);
+  state_.CtrlDown = event->modifiers().testFlag(Qt::ControlModifier);
+  QMainWindow::keyPressEvent(event);
+}
+
+void frmBrowser::keyReleaseEvent(QKeyEvent* event) {
+  state_.ShiftDown = event->modifiers().testFlag(Qt::ShiftModifier);
+  state_.CtrlDown = event->modifiers().testFlag(Qt::ControlModifier);
+  QMainWindow::keyReleaseEvent(event);
+}
+
+}  // namespace quillane

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "forms/ctooltips.h"
+#include "theme/archive.h"
+#include "theme/fault.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <vector>
+
+class QAction;
+class QMenu;
+
+namespace Ui {
+class frmBrowser;
+}
+
+namespace quillane {
+
+class Bevel;
+class Dialogs;
+class PictureBox;
+class PreviewWorld;
+class SettingsStore;
+class Surface;
+struct PublicState;
+
+/// The main window: the themes of a folder on the left, the screens of the selected one on the
+/// right.
+class frmBrowser : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// All that is handed in outlives the window. `commandLine` is the path of a theme to select, may
+  /// stand in double quotes and may be empty.
+  frmBrowser(PublicState& state, SettingsStore& settings, Dialogs& dialogs, PreviewWorld& world,
+             const QString& commandLine);
+  ~frmBrowser() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+
+ private:
+  void connectSignals();
+  void connectButtons();
+  void connectMenus();
+  void connectPanes();
+  void Form_Load(const QString& commandLine);
+  void Form_Paint(Bevel& bevel);
+  void Form_Unload();
+  void selectFromCommandLine(const QString& commandLine, const QString& path);
+
+  // Selection (frmbrowser_selection.cpp).
+  void filFiles_Click();
+  void countSelected();
+  void enableForOneTheme();
+  void extractTheme();
+  void showThemeResult();
+  void showFailure();
+  void showSeveralSelected();
+  void selectMany(void (frmBrowser::*select)());
+  void mnuEditItem_SelectAll();
+  void mnuEditItem_Invert();
+  void showSelectedCounts();
+  qint64 selectedBytes() const;
+  void clearTip();
+  void ClearPreview();
+  void enable(QWidget* control, bool on);
+  void enableNavigation(bool previous, bool next);
+  void enableCopying(bool on);
+  void updateMenus();
+
+  // Folders (frmbrowser_folders.cpp).
+  void filFiles_PathChange();
+  void btnPrev_Click();
+  void btnNext_Click();
+  void stepTo(int index);
+  void btnBrowse_Click();
+  void btnHome_Click();
+  void btnRefresh_Click();
+  void btnDropDown_Click();
+  void mnuPopup2Item_Click(QAction* item);
+  void addToHistory(const QString& folder);
+  void showFolder(const QString& folder);
+  void refreshList();
+  void showCaption();
+  void showThemeCount();
+
+  // Panes (frmbrowser_panes.cpp).
+  void LoadTheme();
+  void drawScreens2(const FaultReporter& report);
+  void drawScreens3G(const FaultReporter& report);
+  void showContainer(int index);
+  void btnViewXML_Click();
+  void mnuViewItem_SourceXml();
+  void btnClipboardCopy_Click();
+  bool offersPaneMenu() const;
+  void showPaneMenu2(std::size_t pane, QPoint place);
+  void showPaneMenu3G(std::size_t pane, QPoint place);
+  void makePaneMenus();
+
+  std::unique_ptr<Ui::frmBrowser> ui_;
+  PublicState& state_;
+  SettingsStore& settings_;
+  Dialogs& dialogs_;
+  PreviewWorld& world_;
+
+  int SelectedCount = 0;
+  bool ThemeFailed = false;
+  QString TipTitle;
+  QString TipText;
+  enum class Severity { Error, Warning } TipSeverity = Severity::Error;
+  bool InListUpdate = false;
+  std::unique_ptr<cTooltips> Tips;
+  bool unloaded_ = false;
+
+  QMenu* mnuPopup_;   ///< Of generation 2's panes.
+  QMenu* mnuPopup3_;  ///< Of the 3G panes.
+  QMenu* mnuPopup2_;  ///< Folders visited before.
+};
+
+}  // namespace quillane

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+// From the extracted theme to the screens, and the menus of the panes.
+#include "browser/frmbrowser.h"
+#include "browser/panemenus.h"
+#include "forms/chourglass.h"
+#include "forms/dialogs.h"
+#include "forms/eventprocedure.h"
+#include "forms/picturebox.h"
+#include "preview/screens.h"
+#include "shell/dynamics.h"
+#include "shell/files.h"
+#include "shell/state.h"
+#include "theme/load.h"
+#include "ui_frmbrowser.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QSet>
+
+namespace quillane {
+
+namespace {
+
+const QString kParseTag = QStringLiteral("in Quillane.modMain.ParseXML ");
+const QString kDrawTag = QStringLiteral("in Quillane.frmBrowser.LoadTheme ");
+
+/// The browser never selects one of the last three cells of the 3G board.
+constexpr int kHighestDesktopIcon = 9;
+
+}  // namespace
+
+/// Shows the faults of one load, each text once: an image that cannot be read fails on every
+/// screen.
+class frmBrowser::LoadFaults {
+ public:
+  explicit LoadFaults(frmBrowser& browser) : browser_(browser) {}
+
+  FaultReporter reporter(const QString& tag) {
+    return [this, tag](const Fault& fault) {
+      if (shown_.contains(fault.description())) return;
+      shown_.insert(fault.description());
+      showFault(browser_.dialogs_, &browser_, fault, tag);
+    };
+  }
+
+ private:
+  frmBrowser& browser_;
+  QSet<QString> shown_;
+};
+
+void frmBrowser::LoadTheme() {
+  const cHourglass wait;
+  LoadFaults faults(*this);
+  const std::optional<LoadedTheme> theme =
+      loadTheme(state_.AppTempFolder, state_.ImageState, faults.reporter(kParseTag));
+  if (!theme) {
+    TipText = QStringLiteral("This theme does not contain an XML file.");
+    TipTitle = QStringLiteral("Error in theme file \"%1\"")
+                   .arg(SplitPath(state_.ThemeFilePath, PathPart::Name));
+    TipSeverity = Severity::Error;
+    SelectedCount = 0;
+    return;
+  }
+  state_.ThemeXmlPath = theme->xmlPath;
+  state_.ThemeXml = theme->xml;
+  ui_->txtXML->setPlainText(theme->xml);
+  state_.ThemeGeneration = theme->values.schema().generation;
+  const bool is3G = state_.ThemeGeneration == Generation::ThreeG;
+  ui_->picPreview_0->setVisible(!is3G);
+  ui_->picPreview_1->setVisible(is3G);
+  if (is3G) {
+    state_.PreviewEngine3G->takeTheme(theme->values);
+    drawScreens3G(faults.reporter(kDrawTag));
+  } else {
+    state_.PreviewEngine2->takeTheme(theme->values);
+    drawScreens2(faults.reporter(kDrawTag));
+  }
+  if (theme->warnings.isEmpty()) return;
+  TipTitle =
+      QStringLiteral("Errors in theme \"%1\"").arg(ui_->filFiles->item(state_.SelectedIndex));
+  TipText = theme->warnings.join(QLatin1String("\r\n"));
+  TipSeverity = Severity::Warning;
+}
+
+void frmBrowser::drawScreens2(const FaultReporter& report) {
+  clsVistrel& engine = *state_.PreviewEngine2;
+  const Screen2* const standby = &screens2().front();
+  for (const Screen2& screen : screens2()) {
+    PictureBox& pane = *findChild<PictureBox*>(QLatin1String(screen.pane));
+    if (&screen == standby) {
+      stepSignal(engine, state_, world_);
+      stepBattery(engine, *state_.EditorEngine2, state_);
+    }
+  }
+}
+
+void frmBrowser::btnViewXML_Click() {
+  const bool on = ui_->btnViewXML->isChecked();
+  ui_->txtXML->setVisible(on);
+  if (on) ui_->txtXML->raise();
+  ui_->mnuViewItem_1->setChecked(on);
+}
+
+void frmBrowser::mnuViewItem_SourceXml() {
+  ui_->btnViewXML->setChecked(ui_->mnuViewItem_1->isChecked());
+  btnViewXML_Click();
+}
+
+void frmBrowser::btnClipboardCopy_Click() {
+  QGuiApplication::clipboard()->setText(state_.ThemeXml);
+}
+
+void frmBrowser::makePaneMenus() {
+  mnuPopup_->addAction(QStringLiteral("Vistrel &Capture..."));
+  mnuPopup_->addAction(QStringLiteral("E&xtract Image..."));
+  mnuPopup3_->addAction(QStringLiteral("Vistrel &Capture..."));
+  for (const ExtractItem3G& item : extractItems3G())
+    mnuPopup3_->addAction(QLatin1String(item.caption));
+  // The forms behind the items are still to come.
+  for (QMenu* menu : {mnuPopup_, mnuPopup3_})
+    for (QAction* item : menu->actions())
+      item->setEnabled(false);
+}
+
+bool frmBrowser::offersPaneMenu() const {
+  return SelectedCount == 1 && !ThemeFailed;
+}
+
+void frmBrowser::showPaneMenu2(std::size_t pane, QPoint place) {
+  if (!offersPaneMenu()) return;
+  const PaneMenu2& menu = paneMenus2()[pane];
+  state_.CapturePane = static_cast<std::uint8_t>(pane + 1);
+  QAction* extract = mnuPopup_->actions().at(1);
+  extract->setVisible(menu.image && !state_.PreviewEngine2->image(*menu.image).isEmpty());
+  extract->setText(QLatin1String(menu.caption));
+  mnuPopup_->popup(place);
+}
+
+void frmBrowser::showPaneMenu3G(std::size_t pane, QPoint place) {
+  if (!offersPaneMenu()) return;
+  state_.CapturePane = static_cast<std::uint8_t>(pane + 1);
+  for (std::size_t row = 0; row < extractItems3G().size(); ++row) {
+    const gen3g::Image image = extractItems3G()[row].image;
+    const bool isSet = !state_.PreviewEngine3G->image(image).isEmpty();
+    mnuPopup3_->actions()
+        .at(static_cast<qsizetype>(row) + 1)
+        ->setVisible(offersImage(paneMenus3G()[pane], image, isSet));
+  }
+  mnuPopup3_->popup(place);
+}
+
+}  // namespace quillane

@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a change of selection sets off.
+#include "browser/commands.h"
+#include "browser/frmbrowser.h"
+#include "forms/dialogs.h"
+#include "forms/filelistbox.h"
+#include "forms/formicons.h"
+#include "shell/files.h"
+#include "shell/state.h"
+#include "ui_frmbrowser.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace quillane {
+
+namespace {
+
+constexpr int kWarningPicture = 109;
+constexpr int kErrorPicture = 110;
+
+/// The drawing boxes that `ClearPreview` clears; those of 3G keep theirs.
+constexpr const char* kClearedPanes[] = {
+    "picStandby", "picDesktop",     "picMenu_0",      "picMenu_1",      "picMenu_2",
+    "picMenu_3",  "picPopupMenu_0", "picPopupMenu_1", "picPopupMenu_2", "picPopupMenu_3",
+    "picNotes",   "picCalendar",    "picWapbrowser",
+};
+
+}  // namespace
+
+void frmBrowser::filFiles_Click() {
+  if (InListUpdate) return;
+  TipText.clear();
+  TipTitle.clear();
+  ThemeFailed = false;
+  countSelected();
+  if (SelectedCount == 1) {
+    showThemeCount();
+    state_.ThemeFilePath = state_.BrowseFolder + ui_->filFiles->item(state_.SelectedIndex);
+    enableForOneTheme();
+    extractTheme();
+    showThemeResult();
+  } else if (SelectedCount > 1) {
+    showSeveralSelected();
+  }
+  updateMenus();
+}
+
+void frmBrowser::countSelected() {
+  const QList<int> selected = ui_->filFiles->selectedItems();
+  SelectedCount = static_cast<int>(selected.size());
+  if (!selected.isEmpty()) state_.SelectedIndex = selected.last();
+}
+
+void frmBrowser::enableForOneTheme() {
+  for (QWidget* button : std::initializer_list<QWidget*>{
+           ui_->btnEdit, ui_->btnExport, ui_->btnCopy, ui_->btnMove, ui_->btnDelete,
+           ui_->btnProperties, ui_->btnIRSend, ui_->btnClipboardCopy})
+    enable(button, true);
+  enableNavigation(state_.SelectedIndex >= 1,
+                   state_.SelectedIndex != ui_->filFiles->listCount() - 1);
+}
+
+void frmBrowser::extractTheme() {
+  DeleteFiles(state_.AppTempFolder + QLatin1String("*.*"));
+  const ArchiveResult result = extractArchive(state_.ThemeFilePath, state_.AppTempFolder);
+  TipTitle = QStringLiteral("UnTAR operation error %1").arg(result.code);
+  TipSeverity = Severity::Error;
+  if (result.code != 0) {
+    TipText = archiveErrorText(result.code, SplitPath(state_.ThemeFilePath, PathPart::Name));
+    return;
+  }
+  LoadTheme();
+  if (SelectedCount != 0) ui_->lblSize->setText(FormatFileSize(state_.ThemeFilePath));
+}
+
+void frmBrowser::showThemeResult() {
+  if (TipText.isEmpty()) {
+    clearTip();
+  } else if (TipSeverity == Severity::Error) {
+    showFailure();
+  } else {
+    Tips->setTitle(TipIcon::Warning, TipTitle);
+    Tips->setText(TipText);
+    ui_->picToolTip->setPixmap(formPixmap(kWarningPicture));
+  }
+}
+
+void frmBrowser::showFailure() {
+  Tips->setTitle(TipIcon::Error, TipTitle);
+  Tips->setText(TipText);
+  ClearPreview();
+  enable(ui_->btnIRSend, false);
+  dialogs_.beep();
+  ui_->picToolTip->setPixmap(formPixmap(kErrorPicture));
+  ThemeFailed = true;
+}
+
+void frmBrowser::clearTip() {
+  ui_->picToolTip->setPixmap({});
+  Tips->setText({});
+}
+
+void frmBrowser::showSeveralSelected() {
+  ClearPreview();
+  ui_->picPreview_0->hide();
+  ui_->picPreview_1->hide();
+  showSelectedCounts();
+  clearTip();
+}
+
+void frmBrowser::showSelectedCounts() {
+  showThemeCount();
+  ui_->lblNoThemes->setText(ui_->lblNoThemes->text() +
+                            QStringLiteral(" (Number of selected themes: %1)").arg(SelectedCount));
+  ui_->lblSize->setText(sizeText(selectedBytes()));
+}
+
+qint64 frmBrowser::selectedBytes() const {
+  qint64 bytes = 0;
+  for (const int index : ui_->filFiles->selectedItems())
+    bytes += QFileInfo(state_.BrowseFolder + ui_->filFiles->item(index)).size();
+  return bytes;
+}
+
+void frmBrowser::mnuEditItem_SelectAll() {
+  InListUpdate = true;
+  ClearPreview();
+  ui_->filFiles->selectEvery();
+  InListUpdate = false;
+  SelectedCount = ui_->filFiles->listCount();
+  showSelectedCounts();
+  clearTip();
+  enableCopying(true);
+  updateMenus();
+}
+
+void frmBrowser::mnuEditItem_Invert() {
+  InListUpdate = true;
+  ClearPreview();
+  const auto before = ui_->filFiles->selectedItems().size();
+  ui_->filFiles->invertSelection();
+  InListUpdate = false;
+  // Counted on from a count that a theme without XML has left at 0.
+  SelectedCount += static_cast<int>(ui_->filFiles->selectedItems().size() - before);
+  if (SelectedCount < 1) {
+    ui_->lblSize->clear();
+    showThemeCount();
+  } else {
+    showSelectedCounts();
+  }
+  enableCopying(SelectedCount >= 1);
+  updateMenus();
+}
+
+void frmBrowser::ClearPreview() {
+  for (const char* pane : kClearedPanes)
+    findChild<PictureBox*>(QLatin1String(pane))->Cls();
+  ui_->txtXML->clear();
+  enableNavigation(false, false);
+  for (QWidget* button : std::initializer_list<QWidget*>{ui_->btnEdit, ui_->btnExport,
+                                                         ui_->btnClipboardCopy, ui_->btnProperties})
+    enable(button, false);
+  ui_->lblSize->clear();
+}
+
+void frmBrowser::enable(QWidget* control, bool on) {
+  control->setEnabled(on && isCommandThere(control->objectName()));
+}
+
+void frmBrowser::enableNavigation(bool previous, bool next) {
+  ui_->btnPrev->setEnabled(previous);
+  ui_->mnuNaviItem_1->setEnabled(previous);
+  ui_->btnNext->setEnabled(next);
+  ui_->mnuNaviItem_2->setEnabled(next);
+}
+
+void frmBrowser::enableCopying(bool on) {
+  for (QWidget* button : {ui_->btnMove, ui_->btnCopy, ui_->btnDelete})
+    enable(button, on);
+}
+
+void frmBrowser::updateMenus() {
+  enableMenuItems(*this, SelectedCount, ThemeFailed);
+}
+
+}  // namespace quillane

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/balloon.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QRegion>
+#include <QScreen>
+
+namespace quillane {
+
+namespace {
+
+constexpr int kTipLength = 12;
+constexpr int kTipWidth = 14;
+constexpr int kRadius = 6;
+constexpr int kTipFromEdge = 24;
+constexpr int kWidestText = 360;
+
+}  // namespace
+
+Balloon::Balloon(QWidget* owner)
+    : QWidget(owner, Qt::ToolTip | Qt::FramelessWindowHint),
+      icon_(new QLabel(this)),
+      title_(new QLabel(this)),
+      text_(new QLabel(this)) {
+  setObjectName(QStringLiteral("balloon"));
+  icon_->setObjectName(QStringLiteral("balloonIcon"));
+  title_->setObjectName(QStringLiteral("balloonTitle"));
+  text_->setObjectName(QStringLiteral("balloonText"));
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  for (QLabel* label : {title_, text_}) {
+    label->setTextFormat(Qt::PlainText);
+    label->setForegroundRole(QPalette::ToolTipText);
+    label->setWordWrap(true);
+    label->setMaximumWidth(kWidestText);
+  }
+  QFont bold = title_->font();
+  bold.setBold(true);
+  title_->setFont(bold);
+  auto* grid = new QGridLayout(this);
+  grid->addWidget(icon_, 0, 0, Qt::AlignTop);
+  grid->addWidget(title_, 0, 1);
+  grid->addWidget(text_, 1, 0, 1, 2);
+  grid->setColumnStretch(1, 1);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void Balloon::showAt(QPoint target, const QPixmap& icon, const QString& title,
+                     const QString& text) {
+  icon_->setPixmap(icon);
+  icon_->setVisible(!icon.isNull());
+  title_->setText(title);
+  text_->setText(text);
+  const QScreen* screen = QGuiApplication::screenAt(target);
+  const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+  for (const bool above : {true, false}) {
+    above_ = above;
+    layout()->setContentsMargins(10, above_ ? 8 : 8 + kTipLength, 12, above_ ? 8 + kTipLength : 8);
+    layout()->activate();
+    if (target.y() - sizeHint().height() >= room.top()) break;
+  }
+  resize(sizeHint());
+  const int left = qMax(room.left(), qMin(target.x() - kTipFromEdge, room.right() - width()));
+  tip_ = qBound(kRadius + kTipWidth, target.x() - left, width() - kRadius - kTipWidth);
+  move(left, above_ ? target.y() - height() : target.y());
+  setMask(QRegion(outline().toFillPolygon().toPolygon()));
+  show();
+}
+
+QPainterPath Balloon::outline() const {
+  const QRectF body = above_
+                          ? QRectF(0.5, 0.5, width() - 1, height() - 1 - kTipLength)
+                          : QRectF(0.5, kTipLength + 0.5, width() - 1, height() - 1 - kTipLength);
+  const qreal edge = above_ ? body.bottom() : body.top();
+  const qreal point = above_ ? height() - 0.5 : 0.5;
+  QPainterPath path;
+  path.addRoundedRect(body, kRadius, kRadius);
+  QPainterPath tip;
+  const qreal inside = above_ ? edge - 1 : edge + 1;
+  tip.addPolygon(QPolygonF{{tip_ - kTipWidth / 2.0, inside},
+                           {static_cast<qreal>(tip_), point},
+                           {tip_ + kTipWidth / 2.0, inside}});
+  return path.united(tip);
+}
+
+void Balloon::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(palette().color(QPalette::ToolTipText));
+  painter.setBrush(palette().color(QPalette::ToolTipBase));
+  painter.drawPath(outline());
+}
+
+}  // namespace quillane

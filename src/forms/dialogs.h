@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace quillane {
+
+/// The icon of a message box.
+enum class MessageIcon { Stop, Warning, Information };
+
+/// The balloon texts, boxes and sounds with which forms turn to a person; a test answers them from
+/// a script.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+
+  /// Shows a message and waits until it is closed.
+  virtual void message(QWidget* owner, MessageIcon icon, const QString& title,
+                       const QString& text) = 0;
+  /// Asks for a folder, beginning at `start`; empty when the person cancels.
+  virtual QString chooseFolder(QWidget* owner, const QString& prompt, const QString& start) = 0;
+  /// The system's beep.
+  virtual void beep() = 0;
+};
+
+/// The dialogs of the desktop.
+class DesktopDialogs : public Dialogs {
+ public:
+  void message(QWidget* owner, MessageIcon icon, const QString& title,
+               const QString& text) override;
+  QString chooseFolder(QWidget* owner, const QString& prompt, const QString& start) override;
+  void beep() override;
+};
+
+}  // namespace quillane

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/eventprocedure.h"
+
+namespace quillane {
+
+void showFault(Dialogs& dialogs, QWidget* owner, const Fault& fault, const QString& tag) {
+  dialogs.message(
+      owner, MessageIcon::Stop, QString(),
+      QStringLiteral("%1\r\n%2at line %3").arg(fault.description(), tag).arg(fault.line()));
+}
+
+}  // namespace quillane

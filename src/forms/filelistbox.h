@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QListView>
+#include <QStringList>
+
+class QStringListModel;
+
+namespace quillane {
+
+/// A list of the files of one folder that bear an ending. Click, Ctrl+click and Shift+click select.
+class FileListBox : public QListView {
+  Q_OBJECT
+
+ public:
+  /// Height of a row in pixels.
+  static constexpr int kRowHeight = 13;
+
+  explicit FileListBox(QWidget* parent = nullptr);
+
+  /// The ending of the files to list, as in ".thm", letter case aside.
+  void setEnding(const QString& ending) { ending_ = ending; }
+
+  const QString& path() const { return path_; }
+  /// Names another folder and emits `PathChange`; `refresh` then reads it.
+  void setPath(const QString& path);
+  /// Reads the folder anew; nothing is selected then. Throws `Fault` when it cannot be read; the
+  /// list is then empty.
+  void refresh();
+
+  int listCount() const { return static_cast<int>(names_.size()); }
+  const QString& item(int index) const { return names_.at(index); }
+
+  /// Indexes of the selected items, ascending.
+  QList<int> selectedItems() const;
+  /// Selects or deselects one item and leaves the others as they are.
+  void setSelected(int index, bool on);
+  void selectEvery();
+  void invertSelection();
+
+ Q_SIGNALS:
+  /// The selection changed, by the user or by the program.
+  void Click();
+  void DblClick();
+  void PathChange();
+
+ protected:
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+ private:
+  QString path_;
+  QString ending_;
+  QStringList names_;
+  QStringListModel* model_;
+};
+
+}  // namespace quillane

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/frmsplash.h"
+
+#include "theme/version.h"
+#include "ui_frmsplash.h"
+
+#include <QPixmap>
+
+namespace quillane {
+
+frmSplash::frmSplash()
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
+      ui_(std::make_unique<Ui::frmSplash>()) {
+  ui_->setupUi(this);
+  ui_->imgIcon->setPixmap(QPixmap(QStringLiteral(":/icons/quillane-128.png")));
+  ui_->lblVersion->setText(versionCaption());
+}
+
+frmSplash::~frmSplash() = default;
+
+void frmSplash::setStatus(const QString& text) {
+  ui_->lblStatus->setText(text);
+  ui_->lblStatus->repaint();
+}
+
+QString versionCaption() {
+  return QStringLiteral("Version: %1.%2.%3 Beta 2")
+      .arg(kVersionMajor)
+      .arg(kVersionMinor)
+      .arg(kVersionRevision);
+}
+
+}  // namespace quillane

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/picturebox.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace quillane {
+
+namespace {
+
+constexpr int kBorder = 2;
+
+ColorValue colorValueOf(const QColor& color) {
+  return static_cast<ColorValue>(color.red() | color.green() << 8 | color.blue() << 16);
+}
+
+}  // namespace
+
+PictureBox::PictureBox(QWidget* parent) : QFrame(parent) {
+  setFrameStyle(QFrame::WinPanel | QFrame::Sunken);
+  setLineWidth(kBorder);
+}
+
+Surface& PictureBox::surface() {
+  if (!surface_) {
+    const QSize client = size() - QSize(2 * kBorder, 2 * kBorder);
+    surface_ = std::make_unique<Surface>(client, colorValueOf(palette().color(QPalette::Window)));
+  }
+  return *surface_;
+}
+
+void PictureBox::Cls() {
+  surface().Cls();
+  showSurface();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  const qreal ratio = devicePixelRatioF();
+  const int whole = qMax(1, qFloor(ratio));
+  const QImage& pixels = surface().image();
+  QImage scaled =
+      pixels.scaled(pixels.size() * whole, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+  scaled.setDevicePixelRatio(ratio);
+  // A place between two device pixels would lose a row or a column.
+  const qreal edge = qRound(kBorder * ratio) / ratio;
+  QPainter(this).drawImage(QPointF(edge, edge), scaled);
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton)
+    Q_EMIT rightClicked(event->globalPosition().toPoint());
+  else
+    QFrame::mouseReleaseEvent(event);
+}
+
+}  // namespace quillane

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace quillane {
+
+/// Bare names of the files in a folder whose names end in `ending`, letter case aside, in name
+/// order, letter case aside again. Hidden files and folders are left out. Throws `Fault` when the
+/// folder cannot be read.
+QStringList listFiles(const QString& folder, const QString& ending);
+
+}  // namespace quillane
