@@ -66,8 +66,8 @@ def bamboo(scene, x, tilt, width, strength):
     for top in np.arange(-6, scene.height, 24):
         joint = scene.polygon([(middle(top + 1) - width / 2, top + 1), (middle(top + 1) + width / 2, top + 1),
                                (middle(top + 23) + width / 2, top + 23), (middle(top + 23) - width / 2, top + 23)])
-        edge = (scene.x - middle(scene.y)) / width
-        tone = 0.45 + 0.55 * smooth(-0.1, 0.5, np.abs(edge))
+        side = (scene.x - middle(scene.y)) / width
+        tone = 0.55 + 0.45 * smooth(-0.45, 0.45, side)
         scene.paint(INK, joint * tone * strength)
 
 
@@ -87,7 +87,7 @@ def stroke(scene, seed, rough=1.0):
     top = 0.7 + edge * 1.8
     bottom = height - 0.7 + edge * 1.6
     body = smooth(-0.3, 0.3, scene.y - top) * smooth(-0.3, 0.3, bottom - scene.y)
-    start = 1.5 + 3.5 * rows
+    start = 0.4 + 2 * rows
     end = width - 2 - 16 * rough * scene.noise((400, 1.2), seed + 2, 2)
     ends = smooth(-0.6, 0.6, scene.x - start) * smooth(-0.6, 0.6, end - scene.x)
     streak = scene.noise((70, 0.9), seed + 3, 2)
@@ -108,11 +108,11 @@ def wallpaper():
     wash(scene, scene.ridge(117, 26, 44, 33, 5, 0.55), 10, 0.9, 8)
     scene.paint(PAPER, smooth(106, 122, scene.y) * 0.75)
     crane(scene, 72, 46, 22, 0.95)
-    crane(scene, 42, 61, 14, -0.55)
-    bamboo(scene, -2, 0.045, 5, 0.75)
-    for x, y, length, turn in ((7, 26, 21, 0.55), (7, 27, 17, 1.15), (6, 30, 19, 0.15),
-                               (4, 75, 16, 0.5), (4, 76, 14, 1.2)):
-        leaf(scene, x, y, length, turn, 0.85)
+    crane(scene, 46, 69, 14, 0.8)
+    bamboo(scene, 3, 0.02, 5, 0.8)
+    for x, y, length, turn in ((8, 28, 22, 0.55), (8, 29, 18, 1.1), (7, 30, 20, 0.1),
+                               (6, 77, 16, 0.5), (6, 78, 14, 1.1)):
+        leaf(scene, x, y, length, turn, 0.9)
     return scene
 
 
@@ -133,10 +133,10 @@ def title():
     line = 20.4 + 0.5 * np.sin(scene.x * 0.05) + (scene.noise((60, 300), 4, 2) - 0.5)
     thick = 0.9 + 0.9 * smooth(100, 0, scene.x) * scene.noise((30, 300), 6, 2)
     scene.paint(INK, smooth(0.35, -0.35, np.abs(scene.y - line) - thick) * 0.95)
-    seal = scene.box(113, 4, 124, 16, 1.4) * (1 - 0.35 * smooth(0.66, 0.74, scene.noise((3, 3), 8, 2)))
+    seal = scene.box(118, 3, 127, 14, 1.2) * (1 - 0.35 * smooth(0.66, 0.74, scene.noise((3, 3), 8, 2)))
     scene.paint(RED, seal)
-    for points in ([(115.5, 6.6), (121.6, 6.6)], [(118.5, 6.6), (118.5, 13.6)],
-                   [(115.5, 13.6), (121.6, 13.6)], [(115.6, 10.1), (121.4, 10.1)]):
+    for points in ([(122.5, 4.8), (122.5, 11.8)], [(120, 7.5), (120, 11.8)],
+                   [(125, 7.5), (125, 11.8)], [(120, 11.8), (125, 11.8)]):
         scene.paint("F8E8D8", scene.line(points, 0.9) * 0.95)
     return scene
 
@@ -174,10 +174,10 @@ def softkeys():
     """Two short strokes of ink as keys, clear around them."""
     scene = Scene(128, 19, "33302B")
     cover = np.zeros(scene.shape)
-    for left, seed in ((0, 63), (70, 73)):
-        key = Scene(58, 19)
-        mask = stroke(key, seed, 0.22)
-        cover[:, left * 4:(left + 58) * 4] = mask
+    left = stroke(Scene(59, 19), 63, 0.3)
+    right = stroke(Scene(59, 19), 73, 0.3)[:, ::-1]
+    cover[:, :left.shape[1]] = left
+    cover[:, -right.shape[1]:] = right
     scene.paint("1E1C19", scene.noise((60, 1.8), 66, 3) * 0.8)
     scene.keep(cover)
     return scene
@@ -207,7 +207,7 @@ THEME = Theme("Ink and Crane", LARGE, {
     "Calendar_weekend_highlight_text": "FFFDF4",
     "Wapbrowser_underline": "BC2A1A", "Wapbrowser_tableborder": "33302B",
 }, {
-    "Wallpaper_image": Picture("cranes.gif", wallpaper, 48, 6),
+    "Wallpaper_image": Picture("cranes.gif", wallpaper, 64, 5),
     "Softkeys_background_image": Picture("softkeys.gif", softkeys, 8, 6),
     "Desktop_background_image": Picture("paper.gif", desktop, 24, 5),
     "Title_image": Picture("title.gif", title, 32, 4),

@@ -56,17 +56,17 @@ def street(scene, horizon):
     s = scene.scale
     line = int(horizon * s)
     depth = scene.y[line:] - horizon
-    ripple = scene.noise((10, 2.2), 77, 3)[line:] - 0.5
+    ripple = scene.noise((9, 1.8), 77, 3)[line:] - 0.5
     columns = np.arange(scene.shape[1])[None, :] + ripple * depth * s * 0.42
     columns = np.clip(columns, 0, scene.shape[1] - 1).astype(int)
     rows = np.clip(line - depth * s * 1.55 - 1, 0, line - 1).astype(int)
     mirrored = scene.pixels[rows, columns]
-    smear = 5 * s
+    smear = 4 * s
     padded = np.pad(mirrored, ((smear, smear), (0, 0), (0, 0)), mode="edge")
     total = np.cumsum(padded, axis=0)
     mirrored = (total[2 * smear:] - total[:-2 * smear]) / (2 * smear)
     fade = np.clip(0.95 - depth / 95, 0, 1)[..., None]
-    scene.pixels[line:] = np.clip(mirrored * fade * 1.15 + np.array([8, 6, 20]), 0, 255)
+    scene.pixels[line:] = np.clip(mirrored * fade * 1.7 + np.array([10, 7, 24]), 0, 255)
 
 
 def walker(scene, x, ground):
@@ -104,21 +104,21 @@ def rain(scene, count, seed, strength):
 def wallpaper():
     """The street, the mirror, the walker and the rain."""
     scene = Scene(128, 127, "0A0618")
-    scene.paint(scene.down([(0, "120A2C"), (0.45, "3A1650"), (0.68, "7A2A6A"), (1, "7A2A6A")]))
-    house(scene, 44, 60, 46, "2A1244", 1, 0.35)
-    house(scene, 58, 72, 36, "241040", 2, 0.35)
-    house(scene, 70, 88, 50, "2C1446", 3, 0.35)
+    scene.paint(scene.down([(0, "1A0E3C"), (0.4, "4A1C66"), (0.68, "A83A80"), (1, "A83A80")]))
+    house(scene, 44, 60, 46, "3A1858", 1, 0.35)
+    house(scene, 58, 72, 36, "321452", 2, 0.35)
+    house(scene, 70, 88, 50, "3E1A5A", 3, 0.35)
     scene.light("FF5AA0", scene.halo(66, 82, 46, 1.6) * 0.5)
-    house(scene, 26, 46, 34, "180B30", 4, 0.28)
-    house(scene, 84, 106, 28, "180B30", 5, 0.28)
-    house(scene, -2, 28, 8, "0E0720", 6, 0.16)
-    house(scene, 103, 131, 4, "0E0720", 7, 0.16)
+    house(scene, 26, 46, 34, "1E0E3C", 4, 0.28)
+    house(scene, 84, 106, 28, "1E0E3C", 5, 0.28)
+    house(scene, -2, 28, 8, "120928", 6, 0.2)
+    house(scene, 103, 131, 4, "120928", 7, 0.2)
     signs(scene)
     street(scene, 84)
     walker(scene, 66, 109)
-    rain(scene, 130, 8, 0.36)
+    rain(scene, 170, 8, 0.42)
     scene.paint("05030C", smooth(12, -4, scene.y) * 0.5)
-    scene.paint("05030C", smooth(106, 128, scene.y) * 0.55)
+    scene.paint("05030C", smooth(106, 128, scene.y) * 0.45)
     return scene
 
 
@@ -127,13 +127,13 @@ def desktop():
     scene = Scene(128, 127)
     scene.paint(scene.down([(0, "1A0E38"), (0.6, "32144E"), (1, "1C0C34")]))
     random = np.random.default_rng(21)
-    for _ in range(26):
-        x, y = random.random(2) * (128, 127)
-        size = 5 + 11 * random.random()
+    for number in range(24):
+        x, y = 128 * (number * 0.618 % 1), 127 * random.random()
+        size = 5 + 10 * random.random()
         colour = (PINK, CYAN, AMBER, VIOLET)[random.integers(4)]
         disc = scene.blur(scene.ellipse(x, y, size), 0.5)
         ring = disc - scene.blur(scene.ellipse(x, y, size - 1.1), 0.5) * 0.75
-        scene.light(colour, np.clip(disc * 0.10 + ring * 0.14, 0, 1))
+        scene.light(colour, np.clip(disc * 0.16 + ring * 0.20, 0, 1))
     return scene
 
 

@@ -7,7 +7,7 @@ import numpy as np
 from scene import Scene, ramp, smooth
 from theme import LARGE, Picture, Theme
 
-SKY = [(0, "060B26"), (0.45, "0C1D48"), (0.8, "1B3A6A"), (1, "28507E")]
+SKY = [(0, "060B26"), (0.45, "0C1D48"), (0.72, "1F4272"), (1, "2C5A86")]
 
 
 def stars(scene, count, seed, depth=1.0):
@@ -25,9 +25,11 @@ def curtain(scene, base, height, seed, strength=1.0, colours=("3CFF9A", "2FB8C8"
     rise = base[None, :] - scene.y
     rays = scene.noise((5, 400), seed, 3) * 0.65 + scene.noise((26, 400), seed + 1, 2) * 0.55
     reach = height * (0.45 + rays)
+    edge = 1.2 + 5 * scene.noise((22, 400), seed + 2, 2)
     fade = np.where(rise > 0, np.exp(-np.clip(rise, 0, None) / (reach * 0.42)),
-                    np.exp(np.clip(rise, -40, 0) / 1.6))
-    glow = np.clip(fade * (0.30 + 0.95 * rays ** 1.4), 0, 1) * strength
+                    np.exp(np.clip(rise, -60, 0) / edge))
+    drift = 0.35 + 0.85 * scene.noise((44, 400), seed + 4, 2)
+    glow = np.clip(fade * drift * (0.30 + 0.95 * rays ** 1.4), 0, 1) * strength
     part = np.clip(rise / (height * 1.05), 0, 1)
     for colour, weight in zip(colours, (smooth(0.5, 0, part), smooth(0.6, 0.3, np.abs(part - 0.4)),
                                         smooth(0.25, 0.8, part))):
@@ -67,7 +69,7 @@ def peaks(scene, corners, seed, dark, light):
     rise = np.gradient(np.interp(x, *zip(*corners)), x)
     lit = np.interp(scene.x + shift, x, (rise < 0).astype(float))
     haze = np.clip(depth / 34, 0, 1)
-    scene.paint(ramp([(0, dark), (1, light)], lit * (1 - 0.72 * haze)), scene.below(line))
+    scene.paint(ramp([(0, dark), (1, light)], lit * (1 - 0.5 * haze) + 0.10 * haze), scene.below(line))
 
 
 def wallpaper():
@@ -78,9 +80,9 @@ def wallpaper():
     curtain(scene, wave(scene, 40, 7, 120, 0.4), 34, 3, 0.75, ("38D8B0", "3A78D8", "8A3AD0"))
     curtain(scene, wave(scene, 63, 9, 150, 2.3), 48, 12, 1.0)
     peaks(scene, [(-6, 92), (9, 79), (16, 85), (29, 72), (41, 89), (50, 83), (68, 95),
-                  (82, 86), (101, 66), (112, 80), (119, 75), (136, 92)], 7, "1A3560", "A4D6DC")
+                  (82, 86), (101, 66), (112, 80), (119, 75), (136, 92)], 7, "122A56", "B4E2E4")
     peaks(scene, [(-6, 104), (14, 96), (30, 103), (56, 89), (66, 97), (73, 92), (92, 103),
-                  (112, 95), (134, 106)], 19, "10254C", "5C93AC")
+                  (112, 95), (134, 106)], 19, "0D2046", "6CA2B8")
     scene.light("2FA070", smooth(58, 92, scene.y) * smooth(104, 88, scene.y) * 0.22)
     random = np.random.default_rng(5)
     for x in np.arange(-2, 131, 3.1):
@@ -104,7 +106,7 @@ def desktop():
     stars(scene, 60, 31, 0.8)
     curtain(scene, wave(scene, 84, 12, 170, 1.0), 70, 40, 0.55)
     peaks(scene, [(-6, 122), (16, 112), (34, 121), (60, 108), (76, 119), (104, 109),
-                  (134, 124)], 50, "12274C", "3E6A88")
+                  (134, 124)], 50, "10254A", "4A7C98")
     return scene
 
 
@@ -205,7 +207,7 @@ THEME = Theme("Polar Night", LARGE, {
     "Statusbar_background_image": Picture("statusbar.gif", statusbar, 32, 8),
     "Wallpaper_image": Picture("wallpaper.gif", wallpaper, 64, 8),
     "Softkeys_background_image": Picture("softkeys.gif", softkeys, 48, 6),
-    "Desktop_background_image": Picture("desktop.gif", desktop, 48, 8),
+    "Desktop_background_image": Picture("desktop.gif", desktop, 40, 7),
     "Title_image": Picture("title.gif", title, 48, 8),
     "General_background_image": Picture("menu.gif", general, 24, 5),
     "Highlight_image": Picture("highlight.gif", highlight, 32, 8),
