@@ -21,7 +21,8 @@ def balloon(scene, x, y, size, fabric):
     u = (scene.x - x) / size
     v = (scene.y - y) / size
     dome = np.hypot(u, v) <= 1
-    taper = (v > 0) & (v < 1.35) & (np.abs(u) <= np.sqrt(np.clip(1 - (v / 1.62) ** 2, 0, 1)) - 0.16 * v)
+    half = np.sqrt(np.clip(1 - (v / 1.62) ** 2, 0, 1)) - 0.16 * v
+    taper = (v > 0) & (v < 1.35) & (np.abs(u) <= half)
     body = scene.blur((dome & (v <= 0)) | taper, 0.18)
     waist = np.sqrt(np.clip(1 - np.clip(np.abs(v) / 1.62, 0, 1) ** 2, 0.01, 1))
     round_v = np.where(v < 0, np.sqrt(np.clip(1 - v * v, 0.01, 1)), waist - 0.16 * np.clip(v, 0, 2))
@@ -111,7 +112,8 @@ def title_asian():
     """Dusk-blue cloud bands and three small balloons on the right."""
     scene = Scene(101, 16)
     scene.paint(scene.down([(0, "2B4788"), (0.7, "5A70AE"), (1, "C98FA0")]))
-    scene.paint("F0B7A6", smooth(0.5, 0.85, scene.noise((40, 4), 17)) * smooth(7, 15, scene.y) * 0.7)
+    banks = smooth(0.5, 0.85, scene.noise((40, 4), 17)) * smooth(7, 15, scene.y)
+    scene.paint("F0B7A6", banks * 0.7)
     for x, y, size, fabric in ((83, 5, 2.6, CHERRY), (90, 7.5, 3.2, TEAL), (97, 4.5, 2.2, ORANGE)):
         balloon(scene, x, y, size, fabric)
     return scene

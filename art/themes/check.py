@@ -66,7 +66,7 @@ ZONES = (
     ("Title_image_medium", (22, 1, 79, 14), "Title_text", "Background", TEXT),
     ("Title_image_large", (10, 1, 91, 14), "Title_text", "Background", TEXT),
     ("Title_image_asian", (22, 1, 79, 14), "Title_text", "Background", TEXT),
-    ("Title_image", (10, 5, 117, 18), "Title_text", "Background", TEXT),
+    ("Title_image", (8, 5, 117, 18), "Title_text", "Background", TEXT),
     ("General_background_image", (4, 2, 122, 104), "Text", "Background", TEXT),
     ("General_background_image", (4, 2, 122, 104), "Disabled_text", "Background", DISABLED),
     ("General_background_image", (88, 3, 122, 14), "Calendar_weekend_text", "Background", TEXT),
@@ -116,6 +116,7 @@ def check_files(folder, generation, images, faults):
     there = {path.name for path in folder.iterdir()} - {f"{folder.name.lower()}.xml"}
     if there != set(images.values()) or len(set(images.values())) != len(images):
         faults.append(f"files {sorted(there)} but named {sorted(images.values())}")
+        return
     for slot, name in images.items():
         path, size = folder / name, generation.images[slot]
         kinds = ("GIF", "JPEG") if generation is LARGE else ("GIF",)
@@ -165,9 +166,11 @@ def main():
     for folder in sorted(OUT.iterdir()):
         faults = []
         generation, images, colours = check_xml(folder, faults)
-        check_files(folder, generation, images, faults)
-        check_colours(generation, colours, faults)
-        check_zones(folder, images, colours, faults)
+        if not faults:
+            check_files(folder, generation, images, faults)
+        if not faults:
+            check_colours(generation, colours, faults)
+            check_zones(folder, images, colours, faults)
         print(f"{folder.name}: {len(images)} pictures,",
               f"{len(faults)} faults" if faults else "all well")
         for fault in faults:

@@ -51,7 +51,8 @@ def crane(scene, x, y, size, wings):
     scene.paint("FFFEF8", np.maximum(body, near))
     rim = smooth(0.30, 0.42, (scene.x - x) / size) * near
     tail = smooth(0.20, 0.30, (scene.x - x) / size) * body
-    black = smooth(-0.02, 0.06, (scene.x - x) / size) * far * smooth(0.5, 0.9, (y - scene.y) / (size * max(lift, 0.1)))
+    high = smooth(0.5, 0.9, (y - scene.y) / (size * max(lift, 0.1)))
+    black = smooth(-0.02, 0.06, (scene.x - x) / size) * far * high
     for part in (rim, tail, black, legs, neck):
         scene.paint(INK, part)
     scene.paint("FFFEF8", scene.line(at((-0.36, -0.02), (-0.46, -0.02)), size * 0.05))
@@ -64,8 +65,9 @@ def bamboo(scene, x, tilt, width, strength):
     def middle(y):
         return x + tilt * (scene.height - y)
     for top in np.arange(-6, scene.height, 24):
-        joint = scene.polygon([(middle(top + 1) - width / 2, top + 1), (middle(top + 1) + width / 2, top + 1),
-                               (middle(top + 23) + width / 2, top + 23), (middle(top + 23) - width / 2, top + 23)])
+        head, foot, half = middle(top + 1), middle(top + 23), width / 2
+        joint = scene.polygon([(head - half, top + 1), (head + half, top + 1),
+                               (foot + half, top + 23), (foot - half, top + 23)])
         side = (scene.x - middle(scene.y)) / width
         tone = 0.55 + 0.45 * smooth(-0.45, 0.45, side)
         scene.paint(INK, joint * tone * strength)
@@ -74,8 +76,9 @@ def bamboo(scene, x, tilt, width, strength):
 def leaf(scene, x, y, length, turn, strength):
     """One bamboo leaf: a tapered stroke."""
     along, across = (np.cos(turn), np.sin(turn)), (-np.sin(turn), np.cos(turn))
-    points = [(x + length * (t * along[0] + w * across[0]), y + length * (t * along[1] + w * across[1]))
-              for t, w in ((0, 0), (0.25, 0.075), (0.55, 0.06), (1, 0), (0.55, -0.05), (0.25, -0.07))]
+    shape = ((0, 0), (0.25, 0.075), (0.55, 0.06), (1, 0), (0.55, -0.05), (0.25, -0.07))
+    points = [(x + length * (t * along[0] + w * across[0]),
+               y + length * (t * along[1] + w * across[1])) for t, w in shape]
     scene.paint(INK, scene.polygon(points) * strength)
 
 
@@ -133,8 +136,8 @@ def title():
     line = 20.4 + 0.5 * np.sin(scene.x * 0.05) + (scene.noise((60, 300), 4, 2) - 0.5)
     thick = 0.9 + 0.9 * smooth(100, 0, scene.x) * scene.noise((30, 300), 6, 2)
     scene.paint(INK, smooth(0.35, -0.35, np.abs(scene.y - line) - thick) * 0.95)
-    seal = scene.box(118, 3, 127, 14, 1.2) * (1 - 0.35 * smooth(0.66, 0.74, scene.noise((3, 3), 8, 2)))
-    scene.paint(RED, seal)
+    worn = smooth(0.66, 0.74, scene.noise((3, 3), 8, 2))
+    scene.paint(RED, scene.box(118, 3, 127, 14, 1.2) * (1 - 0.35 * worn))
     for points in ([(122.5, 4.8), (122.5, 11.8)], [(120, 7.5), (120, 11.8)],
                    [(125, 7.5), (125, 11.8)], [(120, 11.8), (125, 11.8)]):
         scene.paint("F8E8D8", scene.line(points, 0.9) * 0.95)
@@ -195,7 +198,8 @@ THEME = Theme("Ink and Crane", LARGE, {
     "Prompt": "8A1C10", "Cursor": "C8301F",
     "Highlight": "BC2A1A", "Highlight_text": "FFFDF4", "Highlight_disabled_text": "F4B8A4",
     "Scrollbar": "33302B", "Scrollbar_frame": "DDD0B4",
-    "Morelist_title": "BC2A1A", "Morelist_title_text": "FFFDF4", "Morelist_title_text_shadow": "5A0E06",
+    "Morelist_title": "BC2A1A", "Morelist_title_text": "FFFDF4",
+    "Morelist_title_text_shadow": "5A0E06",
     "Morelist_background": "FBF7EC", "Morelist_text": "26241F", "Morelist_text_shadow": "FFFFFF",
     "Morelist_disabled_text": "B0A692", "Morelist_prompt": "8A1C10", "Morelist_cursor": "C8301F",
     "Morelist_highlight": "33302B", "Morelist_highlight_text": "FFFDF4",

@@ -24,11 +24,13 @@ def house(scene, left, right, top, colour, seed, lit=0.3):
     wall = scene.box(left, top, right, 90)
     scene.paint(colour, wall)
     random = np.random.default_rng(seed)
+    tones = (AMBER, "FFE0A0", "7FA8E0", PINK)
     for x in np.arange(left + 2, right - 2, 3.6):
         for y in np.arange(top + 3, 82, 4.4):
             if random.random() < lit:
-                tone = (AMBER, "FFE0A0", "7FA8E0", PINK)[int(random.choice(4, p=[.45, .3, .2, .05]))]
-                scene.paint(tone, scene.box(x, y, x + 1.7, y + 2.1) * (0.35 + 0.5 * random.random()))
+                tone = tones[random.choice(4, p=[0.45, 0.3, 0.2, 0.05])]
+                bright = 0.35 + 0.5 * random.random()
+                scene.paint(tone, scene.box(x, y, x + 1.7, y + 2.1) * bright)
 
 
 def signs(scene):
@@ -72,8 +74,10 @@ def street(scene, horizon):
 def walker(scene, x, ground):
     """A figure with a red umbrella, seen from behind."""
     scene.paint("05030C", scene.ellipse(x, ground + 0.4, 8, 1.5) * 0.7)
-    coat = [(x - 3.0, ground - 19), (x + 3.0, ground - 19), (x + 4.6, ground - 6), (x - 4.6, ground - 6)]
-    for shape in (scene.polygon(coat), scene.line([(x - 1.7, ground - 7), (x - 2.0, ground - 0.5)], 2.0),
+    coat = [(x - 3.0, ground - 19), (x + 3.0, ground - 19),
+            (x + 4.6, ground - 6), (x - 4.6, ground - 6)]
+    for shape in (scene.polygon(coat),
+                  scene.line([(x - 1.7, ground - 7), (x - 2.0, ground - 0.5)], 2.0),
                   scene.line([(x + 1.7, ground - 7), (x + 1.9, ground - 0.8)], 2.0),
                   scene.ellipse(x, ground - 21, 2.5, 2.9)):
         scene.paint("0C0818", shape)
@@ -170,7 +174,8 @@ THEME = Theme("Neon Rain", LARGE, {
     "Prompt": "FFB43C", "Cursor": "2EE6F0",
     "Highlight": "8A187C", "Highlight_text": "FFFFFF", "Highlight_disabled_text": "E0A4DC",
     "Scrollbar": "FF2E88", "Scrollbar_frame": "2C1450",
-    "Morelist_title": "B01468", "Morelist_title_text": "FFFFFF", "Morelist_title_text_shadow": "4A0428",
+    "Morelist_title": "B01468", "Morelist_title_text": "FFFFFF",
+    "Morelist_title_text_shadow": "4A0428",
     "Morelist_background": "2E1650", "Morelist_text": "F0E6FF", "Morelist_text_shadow": "0A0518",
     "Morelist_disabled_text": "8C78B4", "Morelist_prompt": "FFB43C", "Morelist_cursor": "2EE6F0",
     "Morelist_highlight": "14A0B4", "Morelist_highlight_text": "0A0618",

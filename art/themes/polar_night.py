@@ -69,7 +69,8 @@ def peaks(scene, corners, seed, dark, light):
     rise = np.gradient(np.interp(x, *zip(*corners)), x)
     lit = np.interp(scene.x + shift, x, (rise < 0).astype(float))
     haze = np.clip(depth / 34, 0, 1)
-    scene.paint(ramp([(0, dark), (1, light)], lit * (1 - 0.5 * haze) + 0.10 * haze), scene.below(line))
+    tone = lit * (1 - 0.5 * haze) + 0.10 * haze
+    scene.paint(ramp([(0, dark), (1, light)], tone), scene.below(line))
 
 
 def wallpaper():
@@ -92,7 +93,8 @@ def wallpaper():
     field = ramp([(0, "7FB4BC"), (0.35, "35618A"), (1, "152C58")],
                  np.clip((scene.y - snow[None, :]) / 24, 0, 1))
     scene.paint(field, scene.below(snow))
-    scene.light("3CE8A0", scene.below(snow) * scene.noise((30, 3), 8) * smooth(122, 104, scene.y) * 0.35)
+    sheen = scene.noise((30, 3), 8) * smooth(122, 104, scene.y) * 0.35
+    scene.light("3CE8A0", scene.below(snow) * sheen)
     fir(scene, 13, 121, 42, "06122A", 0.55)
     fir(scene, 27, 117, 26, "08162F", 0.5)
     fir(scene, 118, 119, 34, "06122A", 0.55)
@@ -126,7 +128,8 @@ def softkeys():
     for left, right in ((1, 57), (71, 127)):
         scene.paint("02081A", scene.blur(scene.box(left, 2, right, 18.6, 4), 0.5))
         key = scene.box(left, 1, right, 17, 4)
-        scene.paint(scene.down([(0, "4F86B4"), (0.42, "2C5F93"), (0.48, "1D4A7E"), (1, "2A6E96")]), key)
+        ice = [(0, "4F86B4"), (0.42, "2C5F93"), (0.48, "1D4A7E"), (1, "2A6E96")]
+        scene.paint(scene.down(ice), key)
         rim = key - scene.box(left + 0.8, 1.8, right - 0.8, 16.2, 3.2) * key
         scene.paint(scene.down([(0, "C4ECFF"), (0.5, "6FB0D0"), (1, "3CB89A")]), rim * 0.85)
         frost = smooth(0.6, 0.8, scene.noise((12, 6), left + 3, 3)) * key
@@ -192,7 +195,8 @@ THEME = Theme("Polar Night", LARGE, {
     "Prompt": "8FE8D0", "Cursor": "3CFF9A",
     "Highlight": "1C6E8C", "Highlight_text": "FFFFFF", "Highlight_disabled_text": "A8DCE0",
     "Scrollbar": "3CC8A0", "Scrollbar_frame": "0A1838",
-    "Morelist_title": "3A2A80", "Morelist_title_text": "F2E8FF", "Morelist_title_text_shadow": "0A0828",
+    "Morelist_title": "3A2A80", "Morelist_title_text": "F2E8FF",
+    "Morelist_title_text_shadow": "0A0828",
     "Morelist_background": "DDEBF7", "Morelist_text": "12244C", "Morelist_text_shadow": "FFFFFF",
     "Morelist_disabled_text": "8AA2C0", "Morelist_prompt": "12244C", "Morelist_cursor": "6A3AB0",
     "Morelist_highlight": "5A40A8", "Morelist_highlight_text": "FFFFFF",
