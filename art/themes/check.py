@@ -120,8 +120,12 @@ def check_files(folder, generation, images, faults):
     for slot, name in images.items():
         path, size = folder / name, generation.images[slot]
         kinds = ("GIF", "JPEG") if generation is LARGE else ("GIF",)
-        with Image.open(path) as picture:
-            picture.load()
+        try:
+            with Image.open(path) as picture:
+                picture.load()
+        except OSError as error:
+            faults.append(f"{name}: {error}")
+        else:
             smaller = (generation is SMALL and slot.lower().endswith("background_image")
                        and picture.width <= size[0] and picture.height <= size[1])
             if picture.format not in kinds or not (picture.size == size or smaller):
