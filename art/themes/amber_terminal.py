@@ -7,8 +7,8 @@ from theme import SMALL, Theme
 THEME = Theme("Amber Terminal", SMALL, {
     "Standby_operatorname": "FFC840", "Standby_operatorname_outline": "2A1400",
     "Standby_time": "FFE08A", "Standby_time_outline": "2A1400",
-    "Desktop_background": "D98A12",
-    "Desktop_title": "1E0E00", "Desktop_title_outline": "FFD060",
+    "Desktop_background": "EDBB5A",
+    "Desktop_title": "1E0E00", "Desktop_title_outline": "FFF2C8",
     "Title": "F09A10", "Title_text": "1E0E00", "Title_text_shadow": "FFC858",
     "Background": "1E0E00", "Text": "FFB020", "Disabled_text": "8C5610",
     "Prompt": "FFE08A", "Cursor": "FFF2C8",
