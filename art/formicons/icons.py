@@ -19,7 +19,7 @@ def icon(number):
 
 
 def sheet_with_code(x):
-    return Canvas(16).stamp(parts.SHEET, x, 1).stamp(parts.CODE, x + 1, 6)
+    return Canvas(16).stamp(parts.SHEET, x, 1).stamp(parts.CODE, x + 1, 5)
 
 
 def theme_sheet(x, y):
@@ -144,17 +144,18 @@ def previous_large_disabled():
 def drop_down():
     # the pale rim keeps the arrow visible on a dark button
     return Canvas(16).stamp("""
-        KKKKKKK
-        .KKKKK.
-        ..KKK.h
-        h..K.h.
-        """.replace("h", "."), 5, 6)
+        KKKKK
+        hKKKh
+        .hKh.
+        ..h..
+        """, 5, 6)
 
 
 @icon(116)
 def slider_rail():
+    """A groove that runs from edge to edge, so that it can be tiled."""
     canvas = Canvas(16)
-    for row, letter in enumerate("kghiW"):
+    for row, letter in enumerate("kghi"):
         canvas.rect(0, 6 + row, 16, 1, letter)
     return canvas
 
@@ -184,18 +185,18 @@ def next_():
 @icon(111)
 def refresh():
     half = """
-        ............##..
-        ....#####...##..
-        ..########.###..
-        .#############..
-        .####..#######..
-        ####....######..
-        ###....#######..
-        ###....######...
+        .....######.....
+        ...##########...
+        ..############..
+        .#####..#######.
+        .####..#########
+        ####....#######.
+        ####.....#####..
+        ###.......###...
+        ...........#....
         """
-    rows = half.split()
-    turned = [row[::-1] for row in reversed(rows)]
-    return Canvas(16).solid("\n".join(rows + turned), GREEN)
+    canvas = Canvas(16).solid(half, GREEN)
+    return canvas.solid(flipped(mirrored(half)), GREEN, 0, 7)
 
 
 @icon(115)
@@ -220,25 +221,24 @@ def properties():
     return canvas.stamp("""
         ..NNNN..
         .NbWWBN.
-        NbbWWBBN
+        NcbWWBBN
         NbbBBBBN
         NbWWWBBN
         NbBWWBBN
-        NBBWWBBN
-        .NWWWWN.
+        NBWWWWBN
+        .NBBBBN.
         ..NNNN..
         """, 8, 7)
 
 
 @icon(121)
 def export_xml():
-    return sheet_with_code(0).stamp(parts.ARROW_RIGHT, 7, 8)
+    return sheet_with_code(0).stamp(parts.ARROW_RIGHT_SMALL, 8, 9)
 
 
 @icon(136)
 def import_xml():
-    return (Canvas(16).stamp(parts.SHEET, 5, 1).stamp(parts.CODE, 6, 4)
-            .stamp(parts.ARROW_RIGHT, 0, 8))
+    return sheet_with_code(5).stamp(parts.ARROW_RIGHT_SMALL, 0, 9)
 
 
 @icon(112)
@@ -249,14 +249,14 @@ def copy_to_clipboard():
         OytkhhhgktoO
         OytkkkkkktoO
         OyWWWWWWWWoO
-        OyWWWWWWWWoO
-        OyWBWWWWBWoO
-        OyBWWWWWWBoO
-        OyWBWWWWBWoO
+        OyWWNWWNWWoO
+        OyWNWWWWNWoO
+        OyNWWWWWWNoO
+        OyWNWWWWNWoO
+        OyWWNWWNWWoO
         OyWWWWWWWWoO
         OyWggggggWoO
-        OyWWWWWWWWoO
-        OyWggggWWioO
+        OyWWWWWWWioO
         OyWWWWWWiioO
         OtoooooooooO
         .OOOOOOOOOO.
@@ -275,42 +275,42 @@ def move_to_folder():
     canvas = Canvas(16).stamp(parts.SMALL_SHEET, 0, 0)
     canvas.stamp(parts.SMALL_FOLDER, 5, 7)
     return canvas.stamp("""
-        DDDDD..
-        DeeeGD.
-        DDDDeGD
-        .DDDeGDDD
-        .DGeeGGGD
-        ..DGeGGD.
-        ...DGGD..
-        ....DD...
-        """.replace("DDDDD..\n        DeeeGD.\n        DDDDeGD\n",
-                    "DDDDD....\n        DeeeGD...\n        DDDDeGD..\n"), 7, 1)
+        DDDDDD....
+        DeeeeGD...
+        DGGGeeGD..
+        DDDDeeGD..
+        ..DDeeGDDD
+        ..DeeeGGGD
+        ...DeeGGD.
+        ....DeGD..
+        .....DD...
+        """, 6, 1)
 
 
 @icon(124)
 def delete():
     return Canvas(16).stamp("""
         .....kkkk.....
-        ...kkhWhgkkk..
-        .kkhhhhhhhggkk
+        .kkkkkWhkkkkk.
         kWWWWhhhhhhggk
-        .kkkkkkkkkkkkk
-        ..khhhhhhhggk.
-        ..kWgWhghgkgk.
-        ..kWgWhghgkgk.
-        ..kWgWhghgkgk.
-        ..kWgWhghgkgk.
-        ..kWgWhghgkgk.
-        ..kWgWhghgkgk.
-        ..kWgWhghgkgk.
-        ..kWhhhhhhggk.
-        ...kkkkkkkkk..
-        """, 1, 0)
+        kkkkkkkkkkkkkk
+        .kWhhhhhhhggk.
+        .kWgWhghhgkgk.
+        .kWgWhghhgkgk.
+        .kWgWhghhgkgk.
+        .kWgWhghhgkgk.
+        .kWgWhghhgkgk.
+        .kWgWhghhgkgk.
+        .kWgWhghhgkgk.
+        .kWgWhghhgkgk.
+        .kWhhhhhhhggk.
+        ..kkkkkkkkkk..
+        """, 1, 1)
 
 
 @icon(125)
 def view_xml():
-    return sheet_with_code(0).stamp(parts.LENS, 7, 7)
+    return sheet_with_code(0).stamp(parts.LENS, 8, 8)
 
 
 @icon(127)
@@ -354,12 +354,17 @@ def warning():
 
 @icon(110)
 def error():
-    canvas = Canvas(16).solid_points(disc(7.5, 7.5, 7.6), RED)
-    for step in range(6):
-        for width in (0, 1):
-            canvas.put(5 + step - width + (width and 0), 5 + step, "W")
-            canvas.put(10 - step, 5 + step, "W")
-    return canvas
+    canvas = Canvas(16).solid_points(disc(7.5, 7.5, 7.91), RED)
+    return canvas.stamp("""
+        WW....WW
+        WWW..WWW
+        .WWWWWW.
+        ..WWWW..
+        ..WWWW..
+        .WWWWWW.
+        WWW..WWW
+        WW....WW
+        """, 4, 4)
 
 
 # --- editors -----------------------------------------------------------------
@@ -398,20 +403,30 @@ def save():
 @icon(119)
 def save_as():
     canvas = Canvas(16).stamp(parts.SMALL_FLOPPY, 0, 0)
-    for column in (4, 8, 12):
-        canvas.stamp("NNNN\nNcbN\nNbBN\nNNNN", column, 12)
+    for column in (5, 9, 13):
+        canvas.stamp("cbN\nbBN\nNNN", column, 13)
     return canvas
 
 
 @icon(129)
 def open_():
-    canvas = Canvas(16).stamp(parts.FOLDER_OPEN, 0, 3)
-    return canvas.stamp("""
-        KKKKKKKK
-        KRRKYYKK
-        KRRKYYKB
-        KKKKKKKB
-        """, 6, 0)
+    return Canvas(16).stamp("""
+        .....kkkkkkkk...
+        .....kRRYYGGk...
+        ..OOOkRRYYGGk...
+        .OyyykWWWWWWk...
+        .OyYYkBBVVqqkO..
+        .OyYYkBBVVqqkO..
+        .OyYYOOOOOOOOOOO
+        .OyYYOyyyyyyyyyO
+        .OyYOyYYYYYYYYoO
+        .OyYOyYYYYYYYoO.
+        .OyOyYYYYYYYYoO.
+        .OyOyYYYYYYYoO..
+        .OOyYYYYYYYYoO..
+        .OOyooooooooO...
+        .OOOOOOOOOOOO...
+        """)
 
 
 @icon(137)
@@ -458,18 +473,20 @@ def revert():
 
 @icon(139)
 def reset():
-    canvas = Canvas(16).stamp(parts.SHEET, 0, 1)
-    return canvas.solid("""
-        ..####...#
-        .######.##
-        ##########
-        ###..#####
-        ##...#####
-        ##........
-        ###....##.
-        .########.
-        ..######..
-        """, BLUE, 6, 7)
+    canvas = Canvas(16).stamp(parts.SHEET, 0, 0)
+    return canvas.stamp("""
+        ...NNNNN.NN
+        ..NcbbbbNbN
+        .NcbNNNbbBN
+        NcbN.NNNbBN
+        NbN..NbbBBN
+        NbN..NNNNNN
+        NbN.....NN.
+        NbBN...NBBN
+        .NBBNNNBBN.
+        ..NBBBBBN..
+        ...NNNNN...
+        """, 5, 5)
 
 
 @icon(140)
@@ -482,7 +499,7 @@ def remove_images():
 @icon(141)
 def auto_select():
     canvas = Canvas(16).stamp(parts.SMALL_PICTURE, 0, 5)
-    canvas.stamp(parts.WAND, 6, 6)
+    canvas.stamp(parts.WAND, 7, 7)
     return canvas.stamp(parts.STAR, 4, 1).stamp(parts.GLINT, 12, 3)
 
 
@@ -533,9 +550,9 @@ WEDGE = """
     ...........####
     .........######
     .......########
-    ....###########
-    ..#############
-    ###############
+    .....##########
+    ...############
+    .##############
     """
 
 
@@ -548,8 +565,8 @@ def axis(canvas, x, y, step_x, step_y):
 
 @icon(146)
 def flip():
-    canvas = Canvas(16).solid(WEDGE, BLUE, 0, 0)
-    canvas.solid(flipped(WEDGE), METAL, 0, 9)
+    canvas = Canvas(16).solid(WEDGE, "NBbb", 0, 0)
+    canvas.solid(flipped(WEDGE), "giWW", 0, 9)
     return axis(canvas, 0, 7, 1, 0)
 
 
@@ -565,22 +582,23 @@ def crop():
         GeeeGe
         """, 5, 5)
     corner = """
-        ...###........
-        ...###........
-        ...###........
-        ...###........
-        ...###........
-        ...###........
-        ...###........
-        ...###........
-        ...###........
-        ...###........
-        ...###########
-        ...###########
-        ...###########
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ###...........
+        ##############
+        ##############
+        ##############
         """
-    canvas.solid(corner, METAL, -1, 0)
-    return canvas.solid(flipped(mirrored(corner)), METAL, 3, 3)
+    canvas.solid(corner, METAL, 2, 0)
+    return canvas.solid(flipped(mirrored(corner)), METAL, 0, 2)
 
 
 @icon(148)
@@ -590,13 +608,14 @@ def stretch():
         canvas.put(15, 15 - place, "g")
         canvas.put(15 - place, 15, "g")
     return canvas.stamp("""
-        DDD....
-        DeGDD..
-        DGeGDD.
-        .DGeGeD
-        .DDGGGD
-        ..DeGGD
-        ...DDDD
+        DDD.....
+        DeGD...D
+        DGeGD.DD
+        .DGeGDeD
+        ..DGeeGD
+        ...DeGGD
+        ..DeGGGD
+        .DDDDDDD
         """, 7, 7)
 
 
@@ -604,34 +623,34 @@ def stretch():
 def default_palette():
     return Canvas(16).stamp("""
         ......OOOOO.....
-        ....OOyttttOO...
-        ..OOyttNNtMMtO..
-        .OytDDtbBtrRMtO.
-        .OtDeGtBNtMRMttO
-        OytDGDttttttttoO
-        OttttttttttPPtoO
-        OtOOtttttttVPtoO
-        OtOootttOOttttoO
-        .OtttttO..OttoO.
-        .OotOOtO..OooO..
-        ..OooYYtOOtoO...
-        ...OoYotttoO....
-        ....OOooooO.....
-        ......OOOO......
-        """, 0, 1)
+        ....OOyyyttOO...
+        ..OOytBBttttoO..
+        .OytGGBBtRRttoO.
+        .OytGGtttRRtttO.
+        OytttttttttttoO.
+        OytttttttttVVtoO
+        OttOOttttttVVtoO
+        OtO..OtttttttttO
+        .OtOOttOOttttoO.
+        .OttttO..OqqtoO.
+        ..OtYYtOOtqqoO..
+        ...OYYttttooO...
+        ....OOoooOOO....
+        ......OOO.......
+        """, 0, 0)
 
 
 @icon(130)
 def colour_wheel():
     canvas = Canvas(16)
-    wheel = disc(7.5, 7.5, 7.6)
+    wheel = disc(7.5, 7.5, 7.91)
     canvas.solid_points(wheel, ("k", "h", "h", "h"))
     hues = "qYGBVR"
     lights = {"q": "Y", "Y": "y", "G": "e", "B": "b", "V": "h", "R": "r"}
-    for x, y in disc(7.5, 7.5, 6.5):
+    for x, y in disc(7.5, 7.5, 6.98):
         turn = math.atan2(y - 7.5, x - 7.5) / (2 * math.pi) + 0.25
         canvas.put(x, y, hues[int(turn * 6) % 6])
-    for x, y in disc(7.5, 7.5, 6.5) - disc(8.2, 8.2, 6.4):
+    for x, y in disc(7.5, 7.5, 6.98) - disc(8.2, 8.2, 6.9):
         canvas.put(x, y, lights[canvas.cells[y][x]])
     for x, y in disc(7.5, 7.5, 1.6):
         canvas.put(x, y, "W")
@@ -652,7 +671,7 @@ def theme_file():
 
 
 def linked(sheet):
-    return sheet.stamp(parts.CHAIN, 6, 8)
+    return sheet.stamp(parts.CHAIN, 4, 10)
 
 
 @icon(106)

@@ -6,10 +6,12 @@
 import pathlib
 import sys
 
+from appicon import program_icon, theme_icon
 from icons import ICONS
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 FORM_ICONS = ROOT / "src" / "preview" / "icons"
+PROGRAM_ICONS = ROOT / "data" / "icons"
 
 NUMBERS = [*range(101, 149), *range(211, 215)]
 
@@ -48,6 +50,12 @@ def main():
         picture = draw().image()
         faults += faults_of(number, picture)
         picture.save(FORM_ICONS / f"{number}.png", optimize=True)
+    PROGRAM_ICONS.mkdir(parents=True, exist_ok=True)
+    for size in (16, 32, 48, 64, 128, 256):
+        program_icon(size).save(PROGRAM_ICONS / f"quillane-{size}.png", optimize=True)
+    for size in (16, 32, 48, 64, 128):
+        theme_icon(size).save(PROGRAM_ICONS / f"quillane-theme-{size}.png",
+                              optimize=True)
     for fault in faults:
         print(fault, file=sys.stderr)
     return 1 if faults else 0

@@ -34,11 +34,11 @@ kkkkkkkk
 
 # "<>" of the theme source
 CODE = """
-..N...N..
-.N.....N.
-N.......N
-.N.....N.
-..N...N..
+..N..N..
+.N....N.
+N......N
+.N....N.
+..N..N..
 """
 
 SMALL_CODE = """
@@ -216,21 +216,20 @@ PENCIL = """
 ..OyYYoO.....
 .OtYYoO......
 .OttoO.......
-OKttO........
-OKKO.........
-OOO..........
+OKtOO........
+OKO..........
+OO...........
 """
 
 LENS = """
-..NNNN...
-.NWccbN..
-NWccccbN.
-NcccccbN.
-NcccccbN.
-NbccbbbN.
-.NbbbbNN.
-..NNNNkok
-......OoY
+..NNN...
+.NWWcN..
+NWWcccN.
+NWcccbN.
+NccccbN.
+.NcbbNO.
+..NNNOyO
+.....OYO
 """
 
 STAR = """
@@ -305,16 +304,15 @@ MMMMOyyyyyyOMMM
 
 # wand with its tip at the upper left
 WAND = """
-KKK.......
-KWhK......
-KhhhK.....
-.KhNbK....
-..KbNNK...
-...KBNNK..
-....KBNNK.
-.....KBNNK
-......KBNK
-.......KK.
+NNN......
+NWhN.....
+NhcBN....
+.NcbBN...
+..NcbBN..
+...NcbBN.
+....NcbBN
+.....NbBN
+......NN.
 """
 
 GLINT = """
@@ -337,16 +335,12 @@ khggggggkk
 """
 
 CHAIN = """
-.......kkk.
-......kWhgk
-.....kWkkgk
-...kkhk.khk
-..kWhkkkhgk
-.kWkkhhkgk.
-.khk.khkk..
-.kgkkkgk...
-.kghhgk....
-..kkkk.....
+.NNNN..NNNN.
+NcbbbNNcbbbN
+NbNNcbbbNNBN
+NbNNbBBBNNBN
+NbBBBNNbBBBN
+.NNNN..NNNN.
 """
 
 LARGE_SHEET = """

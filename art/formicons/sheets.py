@@ -8,7 +8,7 @@ import sys
 
 from PIL import Image, ImageDraw
 
-from make import FORM_ICONS, NUMBERS
+from make import FORM_ICONS, NUMBERS, PROGRAM_ICONS
 
 GROUNDS = {"grey": "#EFEFEF", "white": "#FFFFFF", "dark": "#2E2E2E"}
 TOOLBAR = [(104, 131, 105), (113, 114, 111), (115, 118, 120), (121, 112),
@@ -54,6 +54,27 @@ def toolbar(ground):
     return bar
 
 
+def program_sheet(ground):
+    """All sizes at 1x, and the small ones enlarged."""
+    sheet = Image.new("RGB", (1130, 520), ground)
+    for line, name in enumerate(("quillane", "quillane-theme")):
+        x, y = 8, 8 + line * 262
+        for size in (16, 32, 48, 64, 128, 256):
+            path = PROGRAM_ICONS / f"{name}-{size}.png"
+            if not path.exists():
+                continue
+            picture = Image.open(path).convert("RGBA")
+            sheet.paste(picture, (x, y), picture)
+            x += size + 8
+        x = 580
+        for size, scale in ((16, 8), (32, 6), (48, 4)):
+            picture = Image.open(PROGRAM_ICONS / f"{name}-{size}.png").convert("RGBA")
+            large = picture.resize((size * scale,) * 2, Image.NEAREST)
+            sheet.paste(large, (x, y), large)
+            x += size * scale + 12
+    return sheet
+
+
 def main(folder):
     folder.mkdir(parents=True, exist_ok=True)
     sixteen = [n for n in NUMBERS if load(n).width == 16]
@@ -63,6 +84,7 @@ def main(folder):
         contact_sheet(sixteen[:half], ground).save(folder / f"a-{name}.png")
         contact_sheet(sixteen[half:], ground).save(folder / f"b-{name}.png")
         contact_sheet(larger, ground, 6, 5).save(folder / f"c-{name}.png")
+        program_sheet(ground).save(folder / f"program-{name}.png")
     bars = Image.new("RGB", (450, 96))
     for row, ground in enumerate(("#D4D0C8", "#EFEFEF", "#2E2E2E")):
         bars.paste(toolbar(ground), (0, row * 32))
