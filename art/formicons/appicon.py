@@ -128,14 +128,14 @@ def program_icon(size):
 
     # the vane: a fan of swatches, the upper left one on top
     swatches = SWATCHES if size >= 48 else SWATCHES[1:4] + SWATCHES[5:]
-    pivot = (30 * unit, 37 * unit)
+    pivot = (28.5 * unit, 37.5 * unit)
     first, last = (-2, 86) if size >= 48 else (2, 84)
     count = len(swatches)
     for place in range(count - 1, -1, -1):
         outline, body, light = swatches[place]
         share = place / (count - 1)
         degrees = first + (last - first) * share
-        far = (25 + 11 * math.sin(math.pi * share)) * unit
+        far = (24.5 + 10 * math.sin(math.pi * share)) * unit
         root, tip = 2.6 * unit, (5.4 if size >= 48 else 6.2) * unit
         sketch.shape(blade(pivot, degrees, -unit, far, root + line / 2,
                            tip + line / 2), outline)
@@ -204,20 +204,21 @@ def theme_icon(size):
                   (right - fold + line * 0.6, top + fold - line * 0.6),
                   (right - line * 1.8, top + fold - line * 0.6)], "i")
 
-    # the phone
+    # the phone; its details need thinner lines than the sheet
+    hair = max(1, round(unit * 0.7))
     l, t, r, b = (snapped(v) for v in (7, 7, 19, 28))
     sketch.box(l, t, r, b, "k", 2 * unit)
-    sketch.box(l + line, t + line, r - line, b - line, "g", 1.3 * unit)
-    sketch.box(l + line, t + line, r - 2 * line, b - 2 * line, "h", 1.3 * unit)
-    sketch.box(l + line, t + line, l + 2 * line, b - 2 * line, "W", line / 2)
-    sl, st, sr, sb = l + 2 * line, t + 3 * line, r - 2 * line, t + snapped(12)
+    sketch.box(l + hair, t + hair, r - hair, b - hair, "g", 1.3 * unit)
+    sketch.box(l + hair, t + hair, r - 2 * hair, b - 2 * hair, "h", 1.3 * unit)
+    sketch.box(l + hair, t + hair, l + 2 * hair, b - 2 * hair, "W", hair / 2)
+    sl, st, sr, sb = l + 2 * hair, t + 3 * hair, r - 2 * hair, t + snapped(12)
     sketch.box(sl, st, sr, sb, "N", 0.5 * unit)
-    landscape(sketch, sl + line, st + line, sr - line, sb - line)
-    sketch.box(sl + line, st + line, sr - line, st + line + snapped(1), "V")
-    key = (sr - sl - 2 * line) / 3
+    landscape(sketch, sl + hair, st + hair, sr - hair, sb - hair)
+    sketch.box(sl + hair, st + hair, sr - hair, st + hair + snapped(1), "V")
+    key = (sr - sl - 2 * hair) / 3
     for row in range(3):
         for column in range(3):
-            x = sl + column * (key + line)
+            x = sl + column * (key + hair)
             y = sb + snapped(1.5) + row * snapped(2)
             letter = "k"
             if row == 0:
@@ -229,6 +230,6 @@ def theme_icon(size):
         x, y = snapped(20.5), snapped(11) + row * snapped(4.2)
         w, h = snapped(5.2), snapped(3.6)
         sketch.box(x, y, x + w, y + h, edge, 0.6 * unit)
-        sketch.box(x + line, y + line, x + w - line, y + h - line, body)
-        sketch.box(x + line, y + line, x + w - line, y + line * 1.6, light)
+        sketch.box(x + hair, y + hair, x + w - hair, y + h - hair, body)
+        sketch.box(x + hair, y + hair, x + w - hair, y + hair * 1.6, light)
     return sketch.finished()

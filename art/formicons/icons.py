@@ -6,7 +6,7 @@ import math
 
 import parts
 from pixel import (AMBER, BLUE, DISABLED, GREEN, METAL, RED, Canvas, disc,
-                   flipped, mirrored, transposed)
+                   flipped, mirrored)
 
 ICONS = {}
 
@@ -41,9 +41,9 @@ def greyed(canvas):
     """The look of a picture on a disabled button."""
     return canvas.recoloured({
         "K": "g", "k": "g", "O": "g", "N": "g", "D": "g", "M": "g", "P": "g",
-        "B": "h", "G": "h", "R": "h", "o": "h", "V": "h", "q": "h", "g": "h",
-        "b": "i", "e": "i", "r": "i", "Y": "i", "t": "i", "h": "i",
-        "c": "W", "y": "W", "i": "i", "W": "W"})
+        "B": "h", "G": "h", "R": "h", "o": "h", "V": "h", "q": "h",
+        "b": "i", "e": "i", "r": "i", "Y": "h", "t": "h", "i": "h",
+        "c": "i", "y": "i", "W": "i"})
 
 
 # --- buttons of every dialog -------------------------------------------------
@@ -188,15 +188,14 @@ def refresh():
         .....######.....
         ...##########...
         ..############..
-        .#####..#######.
-        .####..#########
-        ####....#######.
-        ####.....#####..
-        ###.......###...
-        ...........#....
+        .######.######..
+        .####....#######
+        ####......#####.
+        ####.......###..
+        ###.........#...
         """
     canvas = Canvas(16).solid(half, GREEN)
-    return canvas.solid(flipped(mirrored(half)), GREEN, 0, 7)
+    return canvas.solid(flipped(mirrored(half)), GREEN, 0, 8)
 
 
 @icon(115)
@@ -233,12 +232,12 @@ def properties():
 
 @icon(121)
 def export_xml():
-    return sheet_with_code(0).stamp(parts.ARROW_RIGHT_SMALL, 8, 9)
+    return sheet_with_code(0).stamp(parts.ARROW_RIGHT, 8, 9)
 
 
 @icon(136)
 def import_xml():
-    return sheet_with_code(5).stamp(parts.ARROW_RIGHT_SMALL, 0, 9)
+    return sheet_with_code(5).stamp(parts.ARROW_RIGHT, 0, 9)
 
 
 @icon(112)

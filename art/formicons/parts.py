@@ -41,12 +41,6 @@ N......N
 ..N..N..
 """
 
-SMALL_CODE = """
-.B..B.
-B....B
-.B..B.
-"""
-
 FOLDER_OPEN = """
 ..OOOO.........
 .OyyyyO........
@@ -146,26 +140,7 @@ kWeeeGeik
 kkkkkkkkk
 """
 
-CLIPBOARD = """
-....kkkk....
-.OOkhWhgkOO.
-OtkhhhhhhkoO
-OtkkkkkkkkoO
-Otkkkkkkkkoo
-"""
-
 ARROW_RIGHT = """
-....DD...
-....DeD..
-DDDDDeeD.
-DeeeeeeeD
-DGGGGGGGD
-DDDDDGGD.
-....DGD..
-....DD...
-"""
-
-ARROW_RIGHT_SMALL = """
 ...DD...
 ...DeD..
 DDDDeeD.
@@ -173,17 +148,6 @@ DeeeeeGD
 DDDDGGD.
 ...DGD..
 ...DD...
-"""
-
-ARROW_DOWN_SMALL = """
-..DDD..
-..DeD..
-..DeD..
-DDDeDDD
-DeeeGGD
-.DeGGD.
-..DGD..
-...D...
 """
 
 BLOCK_ARROW = """

@@ -24,7 +24,7 @@ PALETTE = {
     "M": "#7A1A1C", "R": "#D03A32", "r": "#F48C78",
     # violet and orange: swatches
     "P": "#4C2A74", "V": "#9460C4", "q": "#E8762C",
-    # skin and wood
+    # wood
     "t": "#E8BE8C",
 }
 
@@ -34,8 +34,7 @@ GREEN = "DGGe"
 RED = "MRRr"
 AMBER = "OoYy"
 METAL = "kghW"
-PAPER = "kiWW"
-DISABLED = "ghii"
+DISABLED = "ghhi"
 
 _RGBA = {letter: tuple(int(code[i:i + 2], 16) for i in (1, 3, 5)) + (255,)
          for letter, code in PALETTE.items()}
@@ -58,10 +57,6 @@ def mirrored(picture):
 
 def flipped(picture):
     return "\n".join(reversed(rows_of(picture)))
-
-
-def transposed(picture):
-    return "\n".join("".join(column) for column in zip(*rows_of(picture)))
 
 
 class Canvas:
