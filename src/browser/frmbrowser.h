@@ -3,13 +3,12 @@
 #pragma once
 
 #include "forms/ctooltips.h"
-#include "theme/archive.h"
 #include "theme/fault.h"
 
 #include <QMainWindow>
 
 #include <memory>
-#include <vector>
+#include <span>
 
 class QAction;
 class QMenu;
@@ -25,8 +24,9 @@ class Dialogs;
 class PictureBox;
 class PreviewWorld;
 class SettingsStore;
-class Surface;
 struct PublicState;
+template <class Engine>
+struct Screen;
 
 /// The main window: the themes of a folder on the left, the screens of the selected one on the
 /// right.
@@ -63,7 +63,6 @@ class frmBrowser : public QMainWindow {
   void showThemeResult();
   void showFailure();
   void showSeveralSelected();
-  void selectMany(void (frmBrowser::*select)());
   void mnuEditItem_SelectAll();
   void mnuEditItem_Invert();
   void showSelectedCounts();
@@ -93,9 +92,10 @@ class frmBrowser : public QMainWindow {
 
   // Panes (frmbrowser_panes.cpp).
   void LoadTheme();
-  void drawScreens2(const FaultReporter& report);
-  void drawScreens3G(const FaultReporter& report);
-  void showContainer(int index);
+  class LoadFaults;
+  template <class Engine>
+  void drawScreens(Engine& preview, Engine& editor, std::span<const Screen<Engine>> screens,
+                   const FaultReporter& report);
   void btnViewXML_Click();
   void mnuViewItem_SourceXml();
   void btnClipboardCopy_Click();

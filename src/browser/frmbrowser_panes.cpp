@@ -72,10 +72,12 @@ void frmBrowser::LoadTheme() {
   ui_->picPreview_1->setVisible(is3G);
   if (is3G) {
     state_.PreviewEngine3G->takeTheme(theme->values);
-    drawScreens3G(faults.reporter(kDrawTag));
+    drawScreens(*state_.PreviewEngine3G, *state_.EditorEngine3G, screensOf3G(),
+                faults.reporter(kDrawTag));
   } else {
     state_.PreviewEngine2->takeTheme(theme->values);
-    drawScreens2(faults.reporter(kDrawTag));
+    drawScreens(*state_.PreviewEngine2, *state_.EditorEngine2, screensOfGeneration2(),
+                faults.reporter(kDrawTag));
   }
   if (theme->warnings.isEmpty()) return;
   TipTitle =
@@ -84,15 +86,25 @@ void frmBrowser::LoadTheme() {
   TipSeverity = Severity::Warning;
 }
 
-void frmBrowser::drawScreens2(const FaultReporter& report) {
-  clsVistrel& engine = *state_.PreviewEngine2;
-  const Screen2* const standby = &screens2().front();
-  for (const Screen2& screen : screens2()) {
-    PictureBox& pane = *findChild<PictureBox*>(QLatin1String(screen.pane));
-    if (&screen == standby) {
-      stepSignal(engine, state_, world_);
-      stepBattery(engine, *state_.EditorEngine2, state_);
+template <class Engine>
+void frmBrowser::drawScreens(Engine& preview, Engine& editor,
+                             std::span<const Screen<Engine>> screens, const FaultReporter& report) {
+  for (const Screen<Engine>& screen : screens) {
+    auto* pane = findChild<PictureBox*>(screen.pane);
+    if (!pane) continue;
+    if (screen.id == QLatin1String("standby")) {
+      stepSignal(preview, state_, world_);
+      stepBattery(preview, editor, state_);
+    } else if (screen.id == QLatin1String("desktop")) {
+      stepDesktopIcon(preview, kHighestDesktopIcon, state_, world_);
     }
+    preview.setSurface(pane->surface());
+    try {
+      screen.paint(preview);
+    } catch (const Fault& fault) {
+      report(fault);
+    }
+    pane->showSurface();
   }
 }
 

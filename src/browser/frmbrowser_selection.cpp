@@ -6,11 +6,12 @@
 #include "forms/dialogs.h"
 #include "forms/filelistbox.h"
 #include "forms/formicons.h"
+#include "forms/picturebox.h"
 #include "shell/files.h"
 #include "shell/state.h"
+#include "theme/archive.h"
 #include "ui_frmbrowser.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace quillane {
