@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/modmain.h"
+
+#include "shell/places.h"
+#include "shell/settings.h"
+#include "shell/state.h"
+#include "support/stillworld.h"
+#include "support/temp_folder.h"
+#include "support/text.h"
+
+namespace quillane {
+
+namespace {
+
+/// Notes what the start does on the screen.
+class NotedScreen : public StartScreen {
+ public:
+  QSize size{1024, 768};
+  QStringList notes;
+
+  QSize screenSize() override { return size; }
+  void stop(const QString& text) override { notes << text; }
+  void showSplash() override { notes << QStringLiteral("splash"); }
+  void setStatus(const QString& text) override { notes << text; }
+  void loadBrowser() override { notes << QStringLiteral("browser"); }
+  void unloadSplash() override { notes << QStringLiteral("no splash"); }
+};
+
+class Start : public TempFolder {
+ protected:
+  bool start() {
+    const Places places{path("home"), path("shipped"), path("system"), {}};
+    return Main(state, settings, places, world, screen, log.reporter());
+  }
+  QString home(const QString& name = {}) const { return path("home") + '/' + name; }
+  void addSender() {
+    const QString sender = write("system/bluetooth-sendto", "#!/bin/sh\n");
+    QFile::setPermissions(sender, QFile::permissions(sender) | QFile::ExeUser);
+  }
+
+  PublicState state;
+  MemorySettings settings;
+  test::StillWorld world;
+  NotedScreen screen;
+  FaultLog log;
+};
+
+TEST_F(Start, RefusesAScreenThatIsTooSmallInBothDirections) {
+  struct Case {
+    QSize screen;
+    bool starts;
+  };
+  const Case cases[] = {{{1024, 500}, true}, {{640, 900}, true}, {{640, 480}, false},
+                        {{800, 599}, true},  {{799, 600}, true}, {{799, 599}, false}};
+  for (const Case& row : cases) {
+    screen.size = row.screen;
+    screen.notes.clear();
+    EXPECT_EQ(start(), row.starts) << row.screen.width() << 'x' << row.screen.height();
+    if (row.starts) continue;
+    EXPECT_EQ(screen.notes, QStringList{"Quillane was not designed to run\r\n"
+                                        "on screen resolution lower then 800x600."});
+  }
+}
+
+TEST_F(Start, RunsItsStepsInOrder) {
+  ASSERT_TRUE(start());
+  EXPECT_EQ(screen.notes, (QStringList{"splash", "Status: Initializing preview engines...",
+                                       "Status: Loading browser...", "browser", "no splash"}));
+  EXPECT_EQ(state.AppTempFolder, home("temp/"));
+  EXPECT_EQ(state.ConfigFolder2, home("Vistrel Config/2/"));
+  EXPECT_EQ(state.LanguageFile3G, "english.lng");
+  EXPECT_TRUE(state.IncludeIndexFile && state.CompressXMLCode && state.SmartLAImage);
+  EXPECT_FALSE(state.DisableETT);
+  EXPECT_EQ(state.EditorEngine2->OperatorName, "World");
+  EXPECT_TRUE(state.EditorEngine3G->DrawImages);
+  EXPECT_TRUE(log.texts().isEmpty());
+}
+
+TEST_F(Start, EmptiesTheWorkFolder) {
+  write("home/temp/left.gif", "x");
+  write("home/temp/new/left.xml", "x");
+  start();
+  EXPECT_TRUE(listOf("home/temp").isEmpty());
+}
+
+TEST_F(Start, SettlesTheFolders) {
+  makeFolder("home/My Themes");
+  makeFolder("pictures");
+  settings.write(setting::ImageFolder, path("pictures"));
+  settings.write(setting::ExportFolder, path("vanished"));
+  start();
+  EXPECT_EQ(state.ThemesFolder, home("My Themes/"));
+  EXPECT_EQ(state.BrowseFolder, home("My Themes/"));
+  EXPECT_EQ(state.CopyMoveFolder, home("My Themes/"));
+  EXPECT_EQ(state.ImageFolder, path("pictures/"));
+  EXPECT_EQ(state.ExportFolder, home());
+  EXPECT_EQ(state.CaptureFolder, home());
+}
+
+TEST_F(Start, FallsBackToTheProgramFolderFromAMissingThemesFolder) {
+  makeFolder("home/My Themes");
+  settings.write(setting::ThemesFolder, path("vanished"));
+  start();
+  EXPECT_EQ(state.ThemesFolder, home());
+  EXPECT_EQ(state.BrowseFolder, home());
+  EXPECT_EQ(state.CopyMoveFolder, home());
+}
+
+TEST_F(Start, ShowsTheInfraredIconOfGeneration2WithASender) {
+  start();
+  EXPECT_FALSE(state.PreviewEngine2->ShowIRIcon);
+  addSender();
+  start();
+  EXPECT_TRUE(state.PreviewEngine2->ShowIRIcon && state.EditorEngine2->ShowIRIcon);
+  settings.write(setting::ShowIRIcon, "0");
+  start();
+  EXPECT_FALSE(state.PreviewEngine2->ShowIRIcon);
+}
+
+TEST_F(Start, SaysWhichFolderCannotBeMade) {
+  write("home", "a file in the way");
+  EXPECT_EQ(faultNumberOf([this] { start(); }), static_cast<int>(FaultNumber::NoPermission));
+}
+
+}  // namespace
+
+}  // namespace quillane
