@@ -14,6 +14,10 @@ namespace quillane {
 /// A folder of its own for each test, gone afterwards.
 class TempFolder : public testing::Test {
  protected:
+  void SetUp() override {
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), QFile::Permissions(0x7755)));
+  }
+
   QString path(const QString& name = {}) const { return folder_.filePath(name); }
 
   /// Writes a file, its folders included, and returns its path.

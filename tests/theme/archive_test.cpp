@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "theme/archive.h"
 
+#include "support/hindrance.h"
 #include "support/tar_builder.h"
 #include "support/temp_folder.h"
 #include "support/text.h"
@@ -10,7 +11,7 @@
 #include <QBuffer>
 #include <QDateTime>
 
-#include <functional>
+#include <clocale>
 
 namespace quillane {
 namespace {
@@ -203,8 +204,12 @@ TEST(ReadArchive, ReadsNamesOfEveryForm) {
     if (row.name.contains('\0') || row.name.isEmpty()) continue;
     const QByteArray tar =
         TarBuilder().pax(TarBuilder::paxRecord("path", row.name)).file("other", "x").end().bytes();
-    EXPECT_EQ(readBytes(tar).names, row.taken.isEmpty() ? QStringList() : QStringList(row.taken));
+    for (const char* const locale : {"C", "C.UTF-8"}) {
+      std::setlocale(LC_ALL, locale);
+      EXPECT_EQ(readBytes(tar).names, row.taken.isEmpty() ? QStringList() : QStringList(row.taken));
+    }
   }
+  std::setlocale(LC_ALL, "C");
 }
 
 TEST(ReadArchive, GoesOnAfterAMalformedExtension) {
@@ -326,6 +331,26 @@ TEST_F(Archive, TellsWhatCannotBeReadOrCreated) {
   EXPECT_EQ(extractArchive(theme, path(u"no folder"_s)).code, CreateFailed);
   makeFolder(u"out/b.gif"_s);
   EXPECT_EQ(extractArchive(theme, path(u"out"_s)).code, CreateFailed);
+}
+
+TEST_F(Archive, TellsWhatItMayNotRead) {
+  const QString theme = write(u"theme.thm"_s, twoFiles().bytes());
+  ASSERT_TRUE(QFile::setPermissions(theme, QFile::WriteOwner));
+  const WithoutPrivilege nobody;
+  EXPECT_EQ(listArchive(theme).code, NotReadable);
+}
+
+TEST_F(Archive, TellsWhatItCannotWrite) {
+  const QByteArray tar = TarBuilder().file("a", QByteArray(8 * kMiB, 'a')).end().bytes();
+  const QString theme = write(u"theme.thm"_s, tar);
+  const FileSizeLimit limit(kMiB);
+  EXPECT_EQ(extractArchive(theme, makeFolder(u"out"_s)).code, WriteFailed);
+}
+
+TEST_F(Archive, TellsWhenTheDiskIsFull) {
+  const SmallDisk disk(makeFolder(u"out"_s));
+  if (!disk.isMounted()) GTEST_SKIP() << "No right to mount a small file system.";
+  EXPECT_EQ(extract(TarBuilder().file("a", QByteArray(kMiB, 'a')).end()), DiskFull);
 }
 
 TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
