@@ -29,7 +29,7 @@ endfunction()
 function(quillane_test name)
   cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;LINKS")
   add_executable(${name} ${room_SOURCES})
-  target_link_libraries(${name} PRIVATE ${room_LINKS} test_support GTest::gmock)
+  target_link_libraries(${name} PRIVATE ${room_LINKS} test_support GTest::gmock GTest::gtest_main)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   quillane_compile_rules(${name})
   # Texts of tests stand as plain literals; the rules against them are for what ships.

@@ -13,7 +13,8 @@ namespace {
 class Dynamics : public testing::Test {
  protected:
   void load(int times) {
-    for (int load = 0; load < times; ++load) stepBattery(preview, editor, state);
+    for (int load = 0; load < times; ++load)
+      stepBattery(preview, editor, state);
   }
 
   test::StillWorld world;

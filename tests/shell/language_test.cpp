@@ -28,7 +28,8 @@ TEST_F(Language, FillsGeneration2FromDefaults) {
   EXPECT_EQ(engine.BatteryLevel, 10);
   EXPECT_EQ(engine.DesktopIcon, 5);
   EXPECT_TRUE(engine.ShowGPRSIcon);
-  EXPECT_EQ(engine.MenuMediumText, "--1Write new|HD2Inbox|-D3Unsent|--4Templates|--5Sent items (2)");
+  EXPECT_EQ(engine.MenuMediumText,
+            "--1Write new|HD2Inbox|-D3Unsent|--4Templates|--5Sent items (2)");
   EXPECT_EQ(engine.PopupMenuText, "--2Rel. caps lock|H-3Language|-D4Input method|--5Help");
   EXPECT_EQ(state.PopupMenuList1, engine.PopupMenuText);
   EXPECT_EQ(state.PopupMenuList2, "--6Language|--7Input method|HD8Candidates|-D9Accept word");
@@ -37,7 +38,8 @@ TEST_F(Language, FillsGeneration2FromDefaults) {
 }
 
 TEST_F(Language, TakesTheTextsOfTheFile) {
-  write("2/own.lng", "[PopupMenu]\r\nMenuList1=--1Uno\r\nMenuList2=--2Due\r\n[Notes]\r\nNote=Ciao\r\n");
+  write("2/own.lng",
+        "[PopupMenu]\r\nMenuList1=--1Uno\r\nMenuList2=--2Due\r\n[Notes]\r\nNote=Ciao\r\n");
   state.ConfigFolder2 = path("2/");
   state.LanguageFile2 = "own.lng";
   clsVistrel engine(world);

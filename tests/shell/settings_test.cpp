@@ -17,7 +17,7 @@ TEST_F(Settings, ReadsFlagsAndNumbersAsTexts) {
     bool flag;
     int faults;
   };
-  const Case cases[] = {{"0", false, 0}, {"-1", true, 0}, {"1", true, 0},  {" 7 ", true, 0},
+  const Case cases[] = {{"0", false, 0}, {"-1", true, 0},  {"1", true, 0},    {" 7 ", true, 0},
                         {"", true, 1},   {"yes", true, 1}, {"99999", true, 1}};
   for (const Case& row : cases) {
     MemorySettings store;

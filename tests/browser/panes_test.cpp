@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browser/panemenus.h"
+#include "browserfixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QTest>
+
+namespace quillane {
+
+namespace {
+
+const QByteArray kImages2 =
+    "<Background_image Source=\"b.gif\"/><Title_image_small Source=\"s.gif\"/>";
+
+class Panes : public BrowserTest {
+ protected:
+  /// Captions of the menu that a right click on a pane opens; empty when none opens.
+  QStringList menuOf(const char* pane) {
+    QTest::mouseClick(&control<PictureBox>(pane), Qt::RightButton, {}, {30, 30});
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QStringList captions;
+    if (!menu) return captions;
+    for (const QAction* item : menu->actions())
+      if (item->isVisible()) captions << item->text();
+    menu->close();
+    return captions;
+  }
+};
+
+TEST_F(Panes, OfferTheImagesOfGeneration2) {
+  addTheme("a.thm", kImages2, false, {"b.gif", "s.gif"});
+  open();
+  list().setSelected(0, true);
+  const QString capture = "Vistrel &Capture...";
+  EXPECT_EQ(menuOf("picStandby"), (QStringList{capture, "E&xtract Background Image..."}));
+  EXPECT_EQ(state.CapturePane, 1);
+  EXPECT_EQ(menuOf("picDesktop"), QStringList{capture});
+  EXPECT_EQ(menuOf("picMenu_0"), (QStringList{capture, "E&xtract Title Small Image..."}));
+  EXPECT_EQ(menuOf("picMenu_3"), QStringList{capture});
+  EXPECT_EQ(menuOf("picNotes"), (QStringList{capture, "E&xtract Background Image..."}));
+  EXPECT_EQ(state.CapturePane, 11);
+  menuOf("picWapbrowser");
+  EXPECT_EQ(state.CapturePane, 13);
+}
+
+TEST_F(Panes, OfferTheImagesOf3GWithTheirAsymmetry) {
+  struct Case {
+    const char* pane;
+    int index;
+    QStringList without;  // offered by a theme without images
+    QStringList added;    // and beside these by one with all of them
+  };
+  const Case cases[] = {
+      {"picStandby2", 1, {"Wallpaper"}, {"Statusbar", "Softkeys"}},
+      {"picDesktop2", 2, {"Desktop"}, {"Statusbar", "Softkeys"}},
+      {"picMenu2", 3, {"Title", "General Background"}, {"Statusbar", "Highlight", "Softkeys"}},
+      {"picPopupMenu2",
+       4,
+       {"Title", "General Background", "Popup Title", "Popup Highlight"},
+       {"Statusbar", "Softkeys"}},
+      {"picCalendar2", 5, {"Title", "General Background"}, {"Statusbar", "Softkeys"}},
+      {"picNotes2", 6, {"Wallpaper"}, {"Statusbar", "Softkeys"}},
+  };
+  QByteArray elements;
+  for (const ImageElement& image : schemaOf(Generation::ThreeG).images)
+    elements += QByteArray("<") + image.element.data() + " Source=\"i.gif\"/>";
+  addTheme("a.thm", {}, true);
+  addTheme("b.thm", elements, true, {"i.gif"});
+  open();
+  for (const bool full : {false, true}) {
+    list().clearSelection();
+    list().setSelected(full ? 1 : 0, true);
+    for (const Case& row : cases) {
+      QStringList wanted = full ? row.without + row.added : row.without;
+      QStringList offered = menuOf(row.pane);
+      ASSERT_FALSE(offered.isEmpty()) << row.pane;
+      EXPECT_EQ(offered.takeFirst(), "Vistrel &Capture...");
+      for (QString& caption : offered)
+        caption = caption.mid(8).chopped(9);  // "Extract ... Image..."
+      wanted.sort();
+      offered.sort();
+      EXPECT_EQ(offered, wanted) << row.pane << full;
+      EXPECT_EQ(state.CapturePane, row.index);
+    }
+  }
+}
+
+TEST_F(Panes, OpenNoMenuWithoutOneGoodTheme) {
+  addTheme("a.thm");
+  addTheme("b.thm");
+  addDamaged("c.thm");
+  open();
+  EXPECT_TRUE(menuOf("picStandby").isEmpty()) << "nothing selected";
+  list().setSelected(0, true);
+  EXPECT_FALSE(menuOf("picStandby").isEmpty());
+  list().setSelected(1, true);
+  EXPECT_TRUE(menuOf("picStandby").isEmpty()) << "two selected";
+  list().clearSelection();
+  list().setSelected(2, true);
+  EXPECT_TRUE(menuOf("picStandby").isEmpty()) << "a failed theme";
+}
+
+TEST_F(Panes, ShowTheXmlAboveThemselves) {
+  addTheme("a.thm", "<Text Color=\"0x000001\"/>");
+  addTheme("b.thm", "<Text Color=\"0x000002\"/>");
+  open();
+  auto& xml = control<QPlainTextEdit>("txtXML");
+  EXPECT_TRUE(xml.isHidden());
+  click("btnViewXML");
+  EXPECT_TRUE(control<QAction>("mnuViewItem_1").isChecked());
+  list().setSelected(0, true);
+  EXPECT_FALSE(xml.isHidden());
+  EXPECT_EQ(xml.toPlainText(), "<Ericsson_theme>\n<Text Color=\"0x000001\"/>\n</Ericsson_theme>");
+  click("btnClipboardCopy");
+  EXPECT_EQ(QApplication::clipboard()->text(), state.ThemeXml);
+  list().setSelected(1, true);
+  EXPECT_EQ(xml.toPlainText(), "") << "several themes have no text";
+  trigger("mnuViewItem_1");
+  EXPECT_TRUE(xml.isHidden());
+  EXPECT_FALSE(control<QToolButton>("btnViewXML").isChecked());
+}
+
+TEST_F(Panes, StepTheirSimulatedPhone) {
+  addTheme("a.thm");
+  addTheme("b.thm", {}, true);
+  world.nextRandom = 0.5;
+  open();
+  list().setSelected(0, true);
+  EXPECT_EQ(state.PreviewEngine2->SignalStrength, 4);
+  EXPECT_EQ(state.PreviewEngine2->DesktopIcon, 5);
+  EXPECT_EQ(state.PreviewEngine2->BatteryLevel, 10);
+  EXPECT_EQ(state.ThemeLoadCount, 1);
+  list().clearSelection();
+  list().setSelected(1, true);
+  EXPECT_EQ(state.ThemeLoadCount, 2) << "the count is shared";
+  world.nextRandom = 0.999;
+  list().clearSelection();
+  list().setSelected(1, true);
+  EXPECT_EQ(state.PreviewEngine3G->DesktopIcon, 9) << "the last three are never selected";
+}
+
+}  // namespace
+
+}  // namespace quillane

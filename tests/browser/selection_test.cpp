@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browserfixture.h"
+#include "theme/archive.h"
+
+#include <QFileInfo>
+#include <QTest>
+
+namespace quillane {
+
+namespace {
+
+class Selection : public BrowserTest {
+ protected:
+  void select(int index) {
+    list().clearSelection();
+    list().setSelected(index, true);
+  }
+  void selectBoth(int first, int second) {
+    select(first);
+    list().setSelected(second, true);
+  }
+  /// Which of the buttons that follow the selection are on.
+  QString buttons() {
+    QString on;
+    for (const char* name : {"btnPrev", "btnNext", "btnClipboardCopy"})
+      on += enabled(name) ? name[3] : '-';
+    return on;
+  }
+};
+
+TEST_F(Selection, LoadsOneTheme) {
+  addTheme("a.thm");
+  addTheme("b.thm", "<Background Color=\"0x102030\"/>");
+  addTheme("c.thm");
+  open();
+  EXPECT_EQ(label("lblNoThemes"), "Number of themes: 3");
+  EXPECT_EQ(buttons(), "---");
+  select(1);
+  EXPECT_EQ(state.ThemeFilePath, path("themes/b.thm"));
+  EXPECT_EQ(state.SelectedIndex, 1);
+  EXPECT_EQ(state.ThemeXmlPath, path("temp/theme.xml"));
+  EXPECT_EQ(state.PreviewEngine2->color(gen2::BackgroundColor), "102030");
+  EXPECT_EQ(state.PreviewEngine2->color(gen2::TitleColor), "0000FF") << "its default";
+  EXPECT_TRUE(shown("picPreview_0"));
+  EXPECT_FALSE(shown("picPreview_1"));
+  EXPECT_TRUE(painted("picStandby") && painted("picDesktop"));
+  EXPECT_EQ(label("lblSize"), "2.0 KB (2048 bytes)");
+  EXPECT_EQ(buttons(), "PNC");
+  EXPECT_EQ(statusIcon(), '-');
+}
+
+TEST_F(Selection, EnablesSteppingByThePlaceInTheList) {
+  addTheme("a.thm");
+  addTheme("b.thm");
+  open();
+  select(0);
+  EXPECT_EQ(buttons(), "-NC");
+  EXPECT_FALSE(control<QAction>("mnuNaviItem_1").isEnabled());
+  click("btnNext");
+  EXPECT_EQ(state.ThemeFilePath, path("themes/b.thm"));
+  EXPECT_EQ(buttons(), "P-C");
+  EXPECT_EQ(list().selectedItems(), QList<int>{1});
+  trigger("mnuNaviItem_1");
+  EXPECT_EQ(state.ThemeFilePath, path("themes/a.thm"));
+}
+
+TEST_F(Selection, WalksWithTheArrowKeys) {
+  addTheme("a.thm");
+  addTheme("b.thm", {}, true);
+  open();
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {20, 5});
+  EXPECT_EQ(state.ThemeFilePath, path("themes/a.thm"));
+  QTest::keyClick(&list(), Qt::Key_Down);
+  EXPECT_EQ(state.ThemeFilePath, path("themes/b.thm"));
+  EXPECT_EQ(state.ThemeGeneration, Generation::ThreeG);
+  EXPECT_FALSE(shown("picPreview_0"));
+  EXPECT_TRUE(shown("picPreview_1"));
+  EXPECT_TRUE(painted("picStandby2") && painted("picDesktop2"));
+}
+
+TEST_F(Selection, ReportsDamageWithoutAMessage) {
+  addDamaged("a.thm");
+  addTheme("b.thm", {}, true);
+  open();
+  select(1);
+  select(0);
+  EXPECT_EQ(statusIcon(), 'E');
+  EXPECT_EQ(tip(),
+            "The file you attempted to open could not be read or does not contain valid TAR data.");
+  EXPECT_EQ(browser->findChild<cTooltips*>()->title(), "UnTAR operation error 4");
+  EXPECT_EQ(dialogs.beeps, 1);
+  EXPECT_EQ(buttons(), "---");
+  EXPECT_EQ(label("lblSize"), "");
+  EXPECT_TRUE(shown("picPreview_1") && painted("picStandby2")) << "3G panes keep their drawing";
+  select(1);
+  EXPECT_EQ(statusIcon(), '-');
+  EXPECT_EQ(tip(), "");
+}
+
+TEST_F(Selection, NamesTheVanishedFile) {
+  addTheme("a.thm");
+  open();
+  QFile::remove(path("themes/a.thm"));
+  select(0);
+  EXPECT_EQ(
+      tip(),
+      "File \"a.thm\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list.");
+}
+
+TEST_F(Selection, ReportsAThemeWithoutXml) {
+  packArchive(path("themes/a.thm"), {write("pack/x.gif", "GIF")});
+  open();
+  select(0);
+  EXPECT_EQ(tip(), "This theme does not contain an XML file.");
+  EXPECT_EQ(browser->findChild<cTooltips*>()->title(), "Error in theme file \"a.thm\"");
+  EXPECT_EQ(statusIcon(), 'E');
+  EXPECT_FALSE(control<QAction>("mnuEditItem_1").isEnabled());
+}
+
+TEST_F(Selection, WarnsOfMissingImagesAndShowsTheTheme) {
+  addTheme("a.thm", "<Wallpaper_image Source=\"w.gif\"/><Title_image Source=\"t.gif\"/>", true);
+  open();
+  select(0);
+  EXPECT_EQ(statusIcon(), 'W');
+  EXPECT_EQ(tip(),
+            "Wallpaper image defined, file \"w.gif\" not found.\r\n"
+            "Title image defined, file \"t.gif\" not found.");
+  EXPECT_EQ(dialogs.beeps, 0);
+  EXPECT_TRUE(painted("picStandby2"));
+  EXPECT_EQ(buttons(), "--C");
+  EXPECT_EQ(state.ImageState[7], SlotState::Missing);
+}
+
+TEST_F(Selection, SumsSeveral) {
+  addTheme("a.thm");
+  addTheme("b.thm");
+  addTheme("c.thm");
+  open();
+  selectBoth(0, 2);
+  EXPECT_EQ(label("lblNoThemes"), "Number of themes: 3 (Number of selected themes: 2)");
+  EXPECT_EQ(label("lblSize"), "4.0 KB (4096 bytes)");
+  EXPECT_EQ(buttons(), "---");
+  EXPECT_FALSE(shown("picPreview_0") || shown("picPreview_1"));
+  list().setSelected(0, false);
+  EXPECT_EQ(state.ThemeFilePath, path("themes/c.thm")) << "one remains and is loaded";
+  EXPECT_TRUE(shown("picPreview_0"));
+}
+
+TEST_F(Selection, KeepsThePreviewsWhenNothingIsSelected) {
+  addTheme("a.thm");
+  open();
+  select(0);
+  list().setSelected(0, false);
+  EXPECT_TRUE(shown("picPreview_0") && painted("picStandby"));
+  EXPECT_EQ(buttons(), "--C") << "the buttons stay";
+  EXPECT_FALSE(control<QAction>("mnuEditItem_1").isEnabled()) << "the menus follow the count";
+}
+
+TEST_F(Selection, SelectsAllAndInvertsWithoutLoading) {
+  addTheme("a.thm");
+  addTheme("b.thm");
+  open();
+  select(0);
+  trigger("mnuEditItem_7");
+  EXPECT_EQ(list().selectedItems(), QList<int>{1});
+  EXPECT_EQ(label("lblNoThemes"), "Number of themes: 2 (Number of selected themes: 1)");
+  EXPECT_EQ(state.ThemeFilePath, path("themes/a.thm")) << "nothing is loaded";
+  trigger("mnuEditItem_6");
+  EXPECT_EQ(label("lblNoThemes"), "Number of themes: 2 (Number of selected themes: 2)");
+  EXPECT_EQ(label("lblSize"), "4.0 KB (4096 bytes)");
+  EXPECT_TRUE(shown("picPreview_0")) << "the container stays";
+  EXPECT_FALSE(painted("picStandby"));
+  trigger("mnuEditItem_7");
+  EXPECT_EQ(label("lblNoThemes"), "Number of themes: 2");
+  EXPECT_EQ(label("lblSize"), "");
+}
+
+TEST_F(Selection, ShowsAFaultOnceInALoad) {
+  packArchive(
+      path("themes/a.thm"),
+      {write("pack/a.xml", "<Sony_Ericsson_theme><Statusbar_background_image Source=\"bad.gif\"/>"),
+       write("pack/bad.gif", "no picture")});
+  dialogs.expectMessage("*");
+  open();
+  select(0);
+  EXPECT_TRUE(shown("picPreview_1"));
+}
+
+TEST_F(Selection, ThousandsAreSelectedAtOnce) {
+  for (int theme = 0; theme < 3000; ++theme)
+    write(QString("themes/%1.thm").arg(theme), "x");
+  open();
+  trigger("mnuEditItem_6");
+  EXPECT_EQ(label("lblNoThemes"), "Number of themes: 3000 (Number of selected themes: 3000)");
+  EXPECT_EQ(label("lblSize"), "2.9 KB (3000 bytes)");
+}
+
+}  // namespace
+
+}  // namespace quillane

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/balloon.h"
+#include "forms/bevel.h"
+#include "forms/ctooltips.h"
+#include "forms/eventprocedure.h"
+#include "forms/filelistbox.h"
+#include "forms/frmsplash.h"
+#include "forms/picturebox.h"
+#include "preview/modapigraphics.h"
+#include "support/scripteddialogs.h"
+#include "support/temp_folder.h"
+#include "support/text.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace quillane {
+
+namespace {
+
+class Forms : public TempFolder {};
+
+TEST_F(Forms, BevelLinesLeaveOutTheirEnds) {
+  QImage pixels(8, 4, QImage::Format_RGB32);
+  pixels.fill(Qt::gray);
+  QPalette palette;
+  palette.setColor(QPalette::Dark, Qt::black);
+  palette.setColor(QPalette::Light, Qt::white);
+  {
+    QPainter painter(&pixels);
+    Bevel bevel(painter, palette);
+    bevel.shadow(1, 0, 3, 0);
+    bevel.light(7, 0, 7, 3);
+    DrawEtchedLine(bevel, 2, 2);
+  }
+  QString seen;
+  for (int y = 0; y < 4; ++y) {
+    for (int x = 0; x < 8; ++x) {
+      const QRgb pixel = pixels.pixel(x, y);
+      seen += pixel == qRgb(0, 0, 0) ? '#' : pixel == qRgb(255, 255, 255) ? 'o' : '.';
+    }
+    seen += '\n';
+  }
+  EXPECT_EQ(seen,
+            ".##....o\n"
+            ".......o\n"
+            "##.....o\n"
+            "oo......\n");
+}
+
+TEST_F(Forms, PictureBoxShowsItsSurfacePixelForPixel) {
+  PictureBox box;
+  box.resize(115, 95);
+  EXPECT_EQ(box.surface().image().size(), QSize(111, 91));
+  box.Cls();
+  DrawFilledRect(box.surface(), 0x0000FF, 0, 0, 1, 1);
+  DrawFilledRect(box.surface(), 0xFF0000, 110, 90, 111, 91);
+  const QImage seen = box.grab().toImage();
+  EXPECT_EQ(seen.pixelColor(2, 2), QColor(Qt::red));
+  EXPECT_EQ(seen.pixelColor(112, 92), QColor(Qt::blue));
+  EXPECT_EQ(seen.pixelColor(3, 3), box.palette().color(QPalette::Window));
+}
+
+TEST_F(Forms, PictureBoxHearsTheRightButtonAlone) {
+  PictureBox box;
+  box.resize(115, 95);
+  QSignalSpy clicks(&box, &PictureBox::rightClicked);
+  QTest::mouseClick(&box, Qt::LeftButton);
+  EXPECT_EQ(clicks.count(), 0);
+  QTest::mouseClick(&box, Qt::RightButton);
+  EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(Forms, BalloonOpensOnHoverAndOnlyWithAText) {
+  QWidget window;
+  QLabel holder(&window);
+  holder.setGeometry(100, 100, 16, 16);
+  window.resize(200, 200);
+  window.show();
+  cTooltips tips(&holder);
+  const auto balloon = [&] { return holder.findChild<QWidget*>("balloon"); };
+  const auto hover = [&] {
+    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QApplication::sendEvent(&holder, &enter);
+  };
+  hover();
+  EXPECT_FALSE(balloon()->isVisible());
+
+  tips.setTitle(TipIcon::Error, "Title");
+  tips.setText("<b>Text</b>");
+  hover();
+  EXPECT_TRUE(balloon()->isVisible());
+  EXPECT_EQ(balloon()->findChild<QLabel*>("balloonTitle")->text(), "Title");
+  EXPECT_EQ(balloon()->findChild<QLabel*>("balloonText")->text(), "<b>Text</b>");
+  EXPECT_EQ(balloon()->findChild<QLabel*>("balloonText")->textFormat(), Qt::PlainText);
+  EXPECT_FALSE(balloon()->findChild<QLabel*>("balloonIcon")->pixmap().isNull());
+
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&holder, &leave);
+  EXPECT_FALSE(balloon()->isVisible());
+}
+
+TEST_F(Forms, FileListSelectsAndInvertsAsAWhole) {
+  for (const char* name : {"b.thm", "a.thm", "c.THM", "d.txt"})
+    write(name, "x");
+  FileListBox list;
+  list.setEnding(".thm");
+  list.setPath(path());
+  list.refresh();
+  ASSERT_EQ(list.listCount(), 3);
+  EXPECT_EQ(list.item(2), "c.THM");
+  QSignalSpy clicks(&list, &FileListBox::Click);
+  list.setSelected(1, true);
+  EXPECT_EQ(list.selectedItems(), QList<int>{1});
+  list.invertSelection();
+  EXPECT_EQ(list.selectedItems(), (QList<int>{0, 2}));
+  list.selectEvery();
+  EXPECT_EQ(list.selectedItems(), (QList<int>{0, 1, 2}));
+  EXPECT_EQ(clicks.count(), 3);
+  list.refresh();
+  EXPECT_TRUE(list.selectedItems().isEmpty());
+  EXPECT_EQ(clicks.count(), 3) << "reading the folder is no click";
+  EXPECT_EQ(list.sizeHintForRow(0), FileListBox::kRowHeight);
+}
+
+TEST_F(Forms, EmptyListSurvivesItsOperations) {
+  FileListBox list;
+  list.setEnding(".thm");
+  list.setPath(path("missing"));
+  EXPECT_NE(faultNumberOf([&] { list.refresh(); }), 0);
+  list.invertSelection();
+  list.selectEvery();
+  list.setSelected(0, true);
+  EXPECT_TRUE(list.selectedItems().isEmpty());
+}
+
+TEST_F(Forms, EventProcedureShowsAFaultAndPassesACancelOver) {
+  test::ScriptedDialogs dialogs;
+  dialogs.expectMessage("It broke.\r\nin Quillane.frmX.btnY_Click at line 7");
+  const QString tag = "in Quillane.frmX.btnY_Click ";
+  eventProcedure(dialogs, nullptr, tag, [] { throw Fault(FaultNumber::BadCall, "It broke.", 7); });
+  eventProcedure(dialogs, nullptr, tag, [] { throw Fault(FaultNumber::DialogCancelled, "No."); });
+}
+
+TEST_F(Forms, SplashShowsTheVersion) {
+  frmSplash splash;
+  EXPECT_EQ(splash.findChild<QLabel*>("lblVersion")->text(), "Version: 3.0.187 Beta 2");
+  splash.setStatus("Status: Loading browser...");
+  EXPECT_EQ(splash.findChild<QLabel*>("lblStatus")->text(), "Status: Loading browser...");
+}
+
+}  // namespace
+
+}  // namespace quillane
