@@ -6,10 +6,10 @@
 
 namespace quillane {
 
-Fault::Fault(FaultNumber number, QString description, std::source_location where)
+Fault::Fault(FaultNumber number, QString description, int line)
     : number_(number),
       description_(std::move(description)),
       what_(description_.toUtf8()),
-      line_(static_cast<int>(where.line())) {}
+      line_(line) {}
 
 }  // namespace quillane

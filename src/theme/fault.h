@@ -6,7 +6,6 @@
 
 #include <exception>
 #include <functional>
-#include <source_location>
 
 namespace quillane {
 
@@ -27,8 +26,9 @@ enum class FaultNumber : int {
 /// A step that failed: what is wrong, in words for the user, and the line that found it.
 class Fault : public std::exception {
  public:
-  Fault(FaultNumber number, QString description,
-        std::source_location where = std::source_location::current());
+  /// The caller's line comes by itself. (A `std::source_location` is not known to every compiler
+  /// that we build with.)
+  Fault(FaultNumber number, QString description, int line = __builtin_LINE());
 
   FaultNumber number() const { return number_; }
   const QString& description() const { return description_; }
