@@ -29,7 +29,7 @@ constexpr CodeText kCodeTexts[] = {
     {NoArchive,
      "The file you attempted to open could not be read or does not contain valid TAR data."_L1},
     {NotReadable,
-     "File \"%1\" not found or no read permission.\n\nPress F5 to refresh themes list."_L1},
+     "File \"%1\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list."_L1},
     {CreateFailed, "Could not create extracted file."_L1},
     {ReadFailed, "Input file read failure."_L1},
     {WriteFailed, "Output file write failure, possible disk full."_L1},
