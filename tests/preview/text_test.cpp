@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/faces.h"
 #include "preview/modapigraphics.h"
+#include "preview/platform.h"
 #include "preview/surface.h"
 #include "support/letters.h"
 
@@ -200,11 +201,12 @@ TEST(TextTest, WithoutTheFacesAnotherServesAndALineTellsSoOnce) {
   Faces faces([](const QString&) { return QString(); });
   faces.face(QStringLiteral("Tahoma"), 8, false).glyph(U'A');
   SizedFace& sans = faces.face(QStringLiteral("MS Sans Serif"), 8, true);
-  sans.glyph(U'A');
+  EXPECT_GT(sans.glyph(U'A').advance, 0);
   const std::string told = testing::internal::GetCapturedStderr();
   EXPECT_NE(told.find("fonts-wine"), std::string::npos);
   EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1);
 
+  EXPECT_EQ(findFaceFile(QStringLiteral("no such face.ttf")), QString());
   Faces broken([](const QString&) { return QStringLiteral("/dev/null"); });
   testing::internal::CaptureStderr();
   broken.face(QStringLiteral("Tahoma"), 8, true).glyph(U'A');
