@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/balloon.h"
 
+#include "forms/dialogs.h"
+
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
@@ -55,7 +57,7 @@ void Balloon::showAt(QPoint target, const QPixmap& icon, const QString& title,
   icon_->setPixmap(icon);
   icon_->setVisible(!icon.isNull());
   title_->setText(title);
-  text_->setText(text);
+  text_->setText(widgetText(text));
   const QScreen* screen = QGuiApplication::screenAt(target);
   const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
   for (const bool above : {true, false}) {

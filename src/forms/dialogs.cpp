@@ -24,9 +24,13 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
 
 }  // namespace
 
+QString widgetText(QString text) {
+  return text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
 void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& title,
                              const QString& text) {
-  QMessageBox box(iconOf(icon), title, text, QMessageBox::Ok, owner);
+  QMessageBox box(iconOf(icon), title, widgetText(text), QMessageBox::Ok, owner);
   // File names come from strangers and are no markup.
   box.setTextFormat(Qt::PlainText);
   box.exec();

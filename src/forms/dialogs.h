@@ -26,6 +26,9 @@ class Dialogs {
   virtual void beep() = 0;
 };
 
+/// A text of the program with the line ends that widgets understand.
+QString widgetText(QString text);
+
 /// The dialogs of the desktop.
 class DesktopDialogs : public Dialogs {
  public:

@@ -358,7 +358,7 @@ TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
   EXPECT_EQ(archiveErrorText(Damaged, u"a%1.thm"_s), u"Some files in \"a%1.thm\" are corrupted."_s);
   EXPECT_EQ(
       archiveErrorText(NotReadable, u"a.thm"_s),
-      u"File \"a.thm\" not found or no read permission.\n\nPress F5 to refresh themes list."_s);
+      u"File \"a.thm\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list."_s);
   EXPECT_EQ(archiveErrorText(99, u"a.thm"_s), u"UnTAR operation error 99"_s);
 }
 
