@@ -85,6 +85,7 @@ FT_Face openFace(FT_Library library, const QString& path, unsigned pixels) {
 }  // namespace
 
 QStringList splitLines(const QString& text) {
+  if (!text.contains(QLatin1Char('\r')) && !text.contains(QLatin1Char('\n'))) return {text};
   static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
   return text.split(lineEnd);
 }

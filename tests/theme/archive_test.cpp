@@ -212,6 +212,13 @@ TEST(ReadArchive, ReadsNamesOfEveryForm) {
   std::setlocale(LC_ALL, "C");
 }
 
+TEST(ReadArchive, SeesANameInRecordsUpToItsNul) {
+  const QByteArray record = TarBuilder::paxRecord("path", QByteArray("a\0/../b", 7));
+  const Reading reading = readBytes(TarBuilder().pax(record).file("other", "x").end().bytes());
+  EXPECT_EQ(reading.code, Success);
+  EXPECT_EQ(reading.names, QStringList(u"a"_s));
+}
+
 TEST(ReadArchive, GoesOnAfterAMalformedExtension) {
   const Reading reading =
       readBytes(TarBuilder().pax("no record at all").file("a", "a").file("b", "b").end().bytes());
