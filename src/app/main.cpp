@@ -3,6 +3,7 @@
 #include "browser/frmbrowser.h"
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
+#include "forms/formicons.h"
 #include "forms/frmsplash.h"
 #include "shell/modmain.h"
 #include "shell/places.h"
@@ -12,7 +13,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QIcon>
 #include <QLockFile>
 #include <QScreen>
 
@@ -91,6 +91,6 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Quillane"));
   QApplication::setDesktopFileName(QStringLiteral("quillane"));
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillane-128.png")));
+  QApplication::setWindowIcon(quillane::programIcon());
   return quillane::run();
 }

@@ -5,6 +5,11 @@
 #include "preview/picture.h"
 #include "theme/fault.h"
 
+// Outside the namespace, as the resources of a static library ask for.
+static void loadProgramIcons() {
+  Q_INIT_RESOURCE(programicons);
+}
+
 namespace quillane {
 
 QPixmap formPixmap(int id) {
@@ -15,6 +20,14 @@ QPixmap formPixmap(int id) {
 
 QIcon formIcon(int id) {
   return QIcon(formPixmap(id));
+}
+
+QIcon programIcon() {
+  loadProgramIcons();
+  QIcon icon;
+  for (const int side : {16, 32, 48, 64, 128, 256})
+    icon.addFile(QStringLiteral(":/program/%1.png").arg(side));
+  return icon;
 }
 
 }  // namespace quillane

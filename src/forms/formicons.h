@@ -13,4 +13,7 @@ QPixmap formPixmap(int id);
 /// The numbered icon for a button, with a paler picture while the button is disabled.
 QIcon formIcon(int id);
 
+/// The icon of the program, in all its sizes.
+QIcon programIcon();
+
 }  // namespace quillane

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/frmsplash.h"
 
+#include "forms/formicons.h"
 #include "theme/version.h"
 #include "ui_frmsplash.h"
-
-#include <QPixmap>
 
 namespace quillane {
 
@@ -13,7 +12,7 @@ frmSplash::frmSplash()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
       ui_(std::make_unique<Ui::frmSplash>()) {
   ui_->setupUi(this);
-  ui_->imgIcon->setPixmap(QPixmap(QStringLiteral(":/icons/quillane-128.png")));
+  ui_->imgIcon->setPixmap(programIcon().pixmap(128));
   ui_->lblVersion->setText(versionCaption());
 }
 
