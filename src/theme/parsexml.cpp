@@ -67,15 +67,24 @@ class TagSearch {
     const QStringMatcher matcher(name_);
     for (qsizetype at = matcher.indexIn(text_); at >= 0; at = matcher.indexIn(text_, at + 1)) {
       const qsizetype stop = close_.next(at);
-      if (stop == text_.size())
-        report(brokenTag(name_, u"is never closed by \"/>\""_s));
-      else if (firstPieceIsName(at, stop))
-        return text_.sliced(at, stop - at);
+      if (stop == text_.size()) {
+        reportUnclosed(matcher, at, report);
+        break;
+      }
+      if (firstPieceIsName(at, stop)) return text_.sliced(at, stop - at);
     }
     return std::nullopt;
   }
 
  private:
+  /// Reports a match that nothing closes, and so every match after it.
+  void reportUnclosed(const QStringMatcher& matcher, qsizetype first,
+                      const FaultReporter& report) const {
+    const Fault fault = brokenTag(name_, u"is never closed by \"/>\""_s);
+    for (qsizetype at = first; at >= 0; at = matcher.indexIn(text_, at + 1))
+      report(fault);
+  }
+
   /// Whether only blanks stand between the match and the first tab; without a tab before `stop`,
   /// whether the match ends at the first blank.
   bool firstPieceIsName(qsizetype at, qsizetype stop) {
