@@ -33,7 +33,7 @@ class Vistrel3GTest : public testing::Test {
   QString file(QSize size, QRgb color) {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
-    const QString path = folder.filePath(QStringLiteral("%1.bmp").arg(++files));
+    QString path = folder.filePath(QStringLiteral("%1.bmp").arg(++files));
     EXPECT_TRUE(image.save(path));
     return path;
   }
