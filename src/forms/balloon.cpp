@@ -23,6 +23,16 @@ constexpr int kRadius = 6;
 constexpr int kTipFromEdge = 24;
 constexpr int kWidestText = 360;
 
+/// Shows a text on lines as long as they are, and breaks those that are too long.
+void showText(QLabel& label, const QString& text) {
+  label.setWordWrap(false);
+  label.setMinimumWidth(0);
+  label.setText(widgetText(text));
+  if (label.sizeHint().width() <= kWidestText) return;
+  label.setWordWrap(true);
+  label.setMinimumWidth(kWidestText);
+}
+
 }  // namespace
 
 Balloon::Balloon(QWidget* owner)
@@ -38,8 +48,6 @@ Balloon::Balloon(QWidget* owner)
   for (QLabel* label : {title_, text_}) {
     label->setTextFormat(Qt::PlainText);
     label->setForegroundRole(QPalette::ToolTipText);
-    label->setWordWrap(true);
-    label->setMaximumWidth(kWidestText);
   }
   QFont bold = title_->font();
   bold.setBold(true);
@@ -56,8 +64,8 @@ void Balloon::showAt(QPoint target, const QPixmap& icon, const QString& title,
                      const QString& text) {
   icon_->setPixmap(icon);
   icon_->setVisible(!icon.isNull());
-  title_->setText(title);
-  text_->setText(widgetText(text));
+  showText(*title_, title);
+  showText(*text_, text);
   const QScreen* screen = QGuiApplication::screenAt(target);
   const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
   for (const bool above : {true, false}) {
