@@ -9,6 +9,7 @@
 
 namespace quillane {
 
+class PaintSteps;
 class PreviewWorld;
 class Surface;
 
@@ -66,6 +67,8 @@ class clsVistrel {
   void DrawDesktop();
 
  private:
+  void PlaceScreenImage(PaintSteps& steps, const QString& path, const QString& fill);
+
   PreviewWorld* world_;
   Surface* surface_ = nullptr;
   ThemeValues values_{Generation::Two};

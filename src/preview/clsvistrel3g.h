@@ -3,6 +3,7 @@
 #pragma once
 
 #include "preview/bounded.h"
+#include "preview/modapigraphics.h"
 #include "theme/values.h"
 
 #include <QString>
@@ -76,9 +77,28 @@ class clsVistrel3G {
   void DrawSoftkeys(int index);
 
  private:
+  bool isInForce(gen3g::Image which) const;
+  void fill(gen3g::Color which, int x1, int y1, int x2, int y2);
+  /// The zone's image from its top left corner, or its colour when no image is in force.
+  void paintSlot(gen3g::Image slot, gen3g::Color otherwise, int x1, int y1, int x2, int y2);
+  void paintIcon(int id, int x, int y);
+  void setTextColor(gen3g::Color which);
+  void drawText(const QString& text, int left, int top, int width);
+  void DrawShadowText(const QString& text, gen3g::Color color, gen3g::Color shadow, int x, int y,
+                      int alignment);
+  void DrawOutlineText(const QString& text, gen3g::Color outline, gen3g::Color color, int x, int y,
+                       int alignment, bool diagonal);
+  /// The coordinates leave out the margin of 5 pixels.
+  void DrawPopupFrame(gen3g::Color fillColor, int left, int top, int right, int bottom);
+  void DrawStatusBar();
+  /// `mode` 0 has a right key only for exactly two labels, 1 leaves a gap between two keys, 2 shows
+  /// the left key disabled and the right one pressed.
+  void DrawSoftkeyBar(const QString& text, int mode);
+
   PreviewWorld* world_;
   Surface* surface_ = nullptr;
   ThemeValues values_{Generation::ThreeG};
+  FontSpec font_{QStringLiteral("MS Sans Serif"), 0, true, 8, 0};  ///< Lives across operations.
 };
 
 }  // namespace quillane

@@ -6,9 +6,13 @@
 #include "theme/color.h"
 
 #include <QImage>
+#include <QRgb>
 #include <QString>
 
 namespace quillane {
+
+/// The opaque pixel of a colour value.
+QRgb pixelOf(ColorValue color);
 
 /// A picture box to paint on: 32-bit RGB pixels that stay until cleared, and a font of its own that
 /// only measures. Coordinates are pixels; everything clips to the surface.

@@ -12,7 +12,8 @@ namespace quillane {
 using ColorValue = std::uint32_t;
 
 /// Turns a colour value given as decimal text into RRGGBB, upper-case digits.
-/// Of a value with more than six hexadecimal digits the first six count.
+/// Of a value with more than six hexadecimal digits the first six count. Throws `Fault` (BadNumber)
+/// when the text is no whole number of 32 bits.
 QString ColorToHtml(const QString& value);
 
 /// Pads `html` in place on the right with "0" to six places and returns "&HBBGGRR", a text that

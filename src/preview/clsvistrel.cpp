@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "preview/clsvistrel.h"
+
+namespace quillane {
+
+clsVistrel::clsVistrel(PreviewWorld& world) : world_(&world) {
+  DefaultColors();
+}
+
+void clsVistrel::takeTheme(const ThemeValues& values) {
+  values_ = values;
+  StandbyType = image(gen2::BackgroundImage).isEmpty() ? 0 : 1;
+}
+
+void clsVistrel::DefaultColors() {
+  values_.reset();
+  StandbyType = 0;
+  PopupPaddingLeftTop = QStringLiteral("3 5");
+}
+
+}  // namespace quillane

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "theme/archive.h"
+
+#include "theme/archive_platform.h"
+#include "theme/archive_reader.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <iterator>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct CodeText {
+  int code;
+  QLatin1String text;
+};
+
+constexpr CodeText kCodeTexts[] = {
+    {Success, ""_L1},
+    {UnexpectedEnd, "Unexpected end of TAR file."_L1},
+    {Damaged, "Some files in \"%1\" are corrupted."_L1},
+    {NoArchive,
+     "The file you attempted to open could not be read or does not contain valid TAR data."_L1},
+    {NotReadable,
+     "File \"%1\" not found or no read permission.\n\nPress F5 to refresh themes list."_L1},
+    {CreateFailed, "Could not create extracted file."_L1},
+    {ReadFailed, "Input file read failure."_L1},
+    {WriteFailed, "Output file write failure, possible disk full."_L1},
+    {BadChecksum, "Bad CRC."_L1},
+    {WrongCompression, "Unknown compression method."_L1},
+    {DiskFull, "Disk full."_L1},
+};
+
+/// Reads every byte and keeps none.
+class NoSink final : public MemberSink {
+ public:
+  int begin(const ArchiveMember&, qint64) override { return Success; }
+  int write(qint64, QByteArrayView) override { return Success; }
+  int end() override { return Success; }
+};
+
+ArchiveResult readTheme(const QString& themePath, MemberSink& sink) {
+  QFile theme(themePath);
+  if (!QFileInfo(themePath).isFile() || !theme.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    return {NotReadable, {}};
+  return readArchive(theme, sink);
+}
+
+}  // namespace
+
+ArchiveResult extractArchive(const QString& themePath, const QString& folder) {
+  FolderSink sink(folder);
+  return readTheme(themePath, sink);
+}
+
+ArchiveResult listArchive(const QString& themePath) {
+  NoSink sink;
+  return readTheme(themePath, sink);
+}
+
+QString archiveErrorText(int code, const QString& fileName) {
+  const auto* const row = std::find_if(std::begin(kCodeTexts), std::end(kCodeTexts),
+                                       [code](const CodeText& text) { return text.code == code; });
+  if (row == std::end(kCodeTexts)) return u"UnTAR operation error "_s + QString::number(code);
+  return QString(row->text).replace("%1"_L1, fileName);
+}
+
+}  // namespace quillane

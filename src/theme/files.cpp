@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "theme/files.h"
+
+#include "theme/fault.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStorageInfo>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Fault fileFault(FaultNumber number, const QString& words, const QString& path) {
+  return Fault(number, words.arg(QDir::toNativeSeparators(path)));
+}
+
+Fault notFound(const QString& path) {
+  return fileFault(FaultNumber::FileNotFound, u"File \"%1\" not found."_s, path);
+}
+
+Fault unreadable(const QString& path) {
+  return QFileInfo(path).isReadable()
+             ? fileFault(FaultNumber::DeviceFault, u"File \"%1\" could not be read."_s, path)
+             : fileFault(FaultNumber::NoPermission, u"No permission to read \"%1\"."_s, path);
+}
+
+Fault unwritable(const QString& path, qint64 size) {
+  const QString folder = QFileInfo(path).absolutePath();
+  const QFileInfo info(folder);
+  if (!info.isDir())
+    return fileFault(FaultNumber::FileNotFound, u"Folder \"%1\" not found."_s, folder);
+  const QFileInfo file(path);
+  if (!info.isWritable() || (file.exists() && !file.isWritable()))
+    return fileFault(FaultNumber::NoPermission, u"No permission to write \"%1\"."_s, path);
+  const QStorageInfo storage(folder);
+  if (storage.isValid() && storage.bytesAvailable() < size)
+    return fileFault(FaultNumber::DiskFull, u"No room left to write \"%1\"."_s, path);
+  return fileFault(FaultNumber::DeviceFault, u"File \"%1\" could not be written."_s, path);
+}
+
+}  // namespace
+
+QByteArray readFile(const QString& path) {
+  fileSize(path);
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) throw unreadable(path);
+  QByteArray bytes = file.readAll();
+  if (file.error() != QFileDevice::NoError) throw unreadable(path);
+  return bytes;
+}
+
+void saveFile(const QString& path, const QByteArray& bytes) {
+  QSaveFile file(path);
+  const bool saved =
+      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  if (!saved) throw unwritable(path, bytes.size());
+}
+
+qint64 fileSize(const QString& path) {
+  const QFileInfo info(path);
+  if (!info.isFile()) throw notFound(path);
+  return info.size();
+}
+
+}  // namespace quillane

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace quillane {
+
+/// Reads a whole regular file. Throws `Fault`.
+QByteArray readFile(const QString& path);
+
+/// Writes a file beside its place, flushes it and renames it over what was there.
+/// Throws `Fault`; the old file is then untouched.
+void saveFile(const QString& path, const QByteArray& bytes);
+
+/// Size of a regular file in bytes. Throws `Fault` when there is none.
+qint64 fileSize(const QString& path);
+
+}  // namespace quillane

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "theme/archive.h"
+#include "theme/codepage.h"
+#include "theme/fault.h"
+#include "theme/files.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <memory>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kEndBlocks = 1024;
+constexpr auto kLineEnd = "\r\n"_L1;
+
+struct WriterRelease {
+  void operator()(archive* writer) const { archive_write_free(writer); }
+};
+struct EntryRelease {
+  void operator()(archive_entry* entry) const { archive_entry_free(entry); }
+};
+using Entry = std::unique_ptr<archive_entry, EntryRelease>;
+
+/// A header flavour of the library.
+using Flavour = int (*)(archive*);
+
+QString nameInTheme(const QString& file) {
+  return QFileInfo(file).fileName().toLower();
+}
+
+Entry makeEntry(const QString& file, qint64 size) {
+  Entry entry(archive_entry_new());
+  archive_entry_copy_pathname(entry.get(), toCodePage(nameInTheme(file)).constData());
+  archive_entry_set_size(entry.get(), size);
+  archive_entry_set_filetype(entry.get(), AE_IFREG);
+  archive_entry_set_perm(entry.get(), 0644);
+  archive_entry_set_mtime(entry.get(), QFileInfo(file).lastModified().toSecsSinceEpoch(), 0);
+  return entry;
+}
+
+la_ssize_t appendTo(archive*, void* tar, const void* bytes, std::size_t size) {
+  static_cast<QByteArray*>(tar)->append(static_cast<const char*>(bytes),
+                                        static_cast<qsizetype>(size));
+  return static_cast<la_ssize_t>(size);
+}
+
+bool writeMember(archive* writer, archive_entry* entry, const QByteArray& bytes) {
+  return archive_write_header(writer, entry) == ARCHIVE_OK &&
+         archive_write_data(writer, bytes.constData(), static_cast<std::size_t>(bytes.size())) ==
+             bytes.size() &&
+         archive_write_finish_entry(writer) == ARCHIVE_OK;
+}
+
+/// The blocks of one member without end blocks, or nothing where the flavour cannot hold it.
+QByteArray memberBlocks(Flavour flavour, archive_entry* entry, const QByteArray& bytes) {
+  QByteArray tar;
+  const std::unique_ptr<archive, WriterRelease> writer(archive_write_new());
+  flavour(writer.get());
+  archive_write_set_options(writer.get(), "hdrcharset=BINARY");
+  archive_write_add_filter_none(writer.get());
+  archive_write_set_bytes_per_block(writer.get(), 0);
+  archive_write_set_bytes_in_last_block(writer.get(), 1);
+  archive_write_open(writer.get(), &tar, nullptr, &appendTo, nullptr);
+  if (!writeMember(writer.get(), entry, bytes)) return {};
+  QByteArray blocks = tar;  // A copy, since the release of the writer adds end blocks to the other.
+  return blocks;
+}
+
+QByteArray packedMember(const QString& file) {
+  const QByteArray bytes = readFile(file);
+  const Entry entry = makeEntry(file, bytes.size());
+  for (const Flavour flavour :
+       {archive_write_set_format_ustar, archive_write_set_format_pax_restricted}) {
+    const QByteArray blocks = memberBlocks(flavour, entry.get(), bytes);
+    if (!blocks.isEmpty()) return blocks;
+  }
+  throw Fault(FaultNumber::DeviceFault, u"File \"%1\" cannot be packed."_s.arg(file));
+}
+
+QString indexEntry(const QString& file) {
+  return u"%1 <%2>"_s.arg(nameInTheme(file), QString::number(fileSize(file)));
+}
+
+}  // namespace
+
+void packArchive(const QString& themePath, const QStringList& files) {
+  QByteArray tar;
+  for (const QString& file : files)
+    tar += packedMember(file);
+  tar.append(kEndBlocks, '\0');
+  saveFile(themePath, tar);
+}
+
+QByteArray themeIndex(const QStringList& files, IndexEnd end) {
+  QStringList entries;
+  for (const QString& file : files)
+    entries += indexEntry(file);
+  if (end == IndexEnd::LineEnd && !entries.isEmpty()) entries += QString();
+  return toCodePage(entries.join(kLineEnd));
+}
+
+}  // namespace quillane
