@@ -57,8 +57,9 @@ QByteArray readFile(const QString& path) {
 
 void saveFile(const QString& path, const QByteArray& bytes) {
   QSaveFile file(path);
-  const bool saved =
-      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  // The commit alone does not notice that the last buffer could not be written.
+  const bool saved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+                     file.flush() && file.commit();
   if (!saved) throw unwritable(path, bytes.size());
 }
 
