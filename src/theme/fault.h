@@ -26,7 +26,8 @@ enum class FaultNumber : int {
 /// A step that failed: what is wrong, in words for the user, and the line that found it.
 class Fault : public std::exception {
  public:
-  /// `line` is left to its default: the line of the call.
+  /// The caller's line comes by itself. (A `std::source_location` is not known to every compiler
+  /// that we build with.)
   Fault(FaultNumber number, QString description, int line = __builtin_LINE());
 
   FaultNumber number() const { return number_; }

@@ -79,7 +79,7 @@ QByteArray packedMember(const QString& file) {
   const Entry entry = makeEntry(file, bytes.size());
   for (const Flavour flavour :
        {archive_write_set_format_ustar, archive_write_set_format_pax_restricted}) {
-    const QByteArray blocks = memberBlocks(flavour, entry.get(), bytes);
+    QByteArray blocks = memberBlocks(flavour, entry.get(), bytes);
     if (!blocks.isEmpty()) return blocks;
   }
   throw Fault(FaultNumber::DeviceFault, u"File \"%1\" cannot be packed."_s.arg(file));

@@ -55,7 +55,7 @@ class TarBuilder {
     bytes_ += bytes;
     return *this;
   }
-  TarBuilder& end(int blocks = 2) { return raw(QByteArray(blocks * kBlock, '\0')); }
+  TarBuilder& end(qsizetype blocks = 2) { return raw(QByteArray(blocks * kBlock, '\0')); }
   /// Keeps the first bytes only.
   TarBuilder& cut(qsizetype size) {
     bytes_.truncate(size);

@@ -22,7 +22,7 @@ class TempFolder : public testing::Test {
 
   /// Writes a file, its folders included, and returns its path.
   QString write(const QString& name, const QByteArray& bytes) const {
-    const QString target = path(name);
+    QString target = path(name);
     QDir().mkpath(QFileInfo(target).path());
     QFile file(target);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
