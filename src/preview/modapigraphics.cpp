@@ -88,6 +88,7 @@ void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, ColorValue color
 
 void DrawTextRect(Surface& surface, const QString& text, int left, int top, int height, int width,
                   const FontSpec& font) {
+  if (width <= 0 || height <= 0) return;
   SizedFace& face = Faces::shared().face(font.Name, font.Size, font.Bold);
   QImage& image = surface.image();
   const QRgb pixel = pixelOf(font.Color);

@@ -14,7 +14,13 @@ namespace {
 constexpr const char* kFaceFolders[] = {"/usr/share/wine/fonts/",
                                         "/usr/share/fonts/truetype/wine/"};
 
+using Configuration = std::unique_ptr<FcConfig, void (*)(FcConfig*)>;
 using Pattern = std::unique_ptr<FcPattern, void (*)(FcPattern*)>;
+
+/// The user's font configuration, read for one question; nothing of it stays behind.
+Configuration readConfiguration() {
+  return {FcInitLoadConfigAndFonts(), &FcConfigDestroy};
+}
 
 QString fileOf(FcPattern* pattern) {
   FcChar8* path = nullptr;
@@ -29,10 +35,11 @@ QString findFaceFile(const QString& fileName) {
   for (const char* folder : kFaceFolders)
     if (const QString path = QLatin1String(folder) + fileName; QFile::exists(path)) return path;
 
+  const Configuration configuration = readConfiguration();
   const Pattern any(FcPatternCreate(), &FcPatternDestroy);
   FcObjectSet* asked = FcObjectSetBuild(FC_FILE, nullptr);
   const std::unique_ptr<FcFontSet, void (*)(FcFontSet*)> installed(
-      FcFontList(nullptr, any.get(), asked), &FcFontSetDestroy);
+      FcFontList(configuration.get(), any.get(), asked), &FcFontSetDestroy);
   FcObjectSetDestroy(asked);
   for (int i = 0; installed != nullptr && i < installed->nfont; ++i)
     if (const QString path = fileOf(installed->fonts[i]); QFileInfo(path).fileName() == fileName)
@@ -41,15 +48,16 @@ QString findFaceFile(const QString& fileName) {
 }
 
 QString closestFaceFile(const QString& family, bool bold) {
+  const Configuration configuration = readConfiguration();
   const Pattern wanted(FcPatternCreate(), &FcPatternDestroy);
   const QByteArray name = family.toUtf8();
   FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(name.constData()));
   FcPatternAddInteger(wanted.get(), FC_WEIGHT, bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
   FcPatternAddBool(wanted.get(), FC_OUTLINE, FcTrue);
-  FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
+  FcConfigSubstitute(configuration.get(), wanted.get(), FcMatchPattern);
   FcDefaultSubstitute(wanted.get());
   FcResult result = FcResultNoMatch;
-  const Pattern found(FcFontMatch(nullptr, wanted.get(), &result), &FcPatternDestroy);
+  const Pattern found(FcFontMatch(configuration.get(), wanted.get(), &result), &FcPatternDestroy);
   return fileOf(found.get());
 }
 

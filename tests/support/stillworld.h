@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "preview/world.h"
+
+namespace quillane::test {
+
+/// A world that stands still on Saturday 14 June 2003, 09:41, and speaks English.
+class StillWorld : public PreviewWorld {
+ public:
+  QDateTime time{QDate(2003, 6, 14), QTime(9, 41)};
+  double nextRandom = 0;
+  int reseeded = 0;
+
+  QDateTime now() override { return time; }
+  void reseed() override { ++reseeded; }
+  double random() override { return nextRandom; }
+  QLocale locale() const override { return QLocale::c(); }
+};
+
+}  // namespace quillane::test
