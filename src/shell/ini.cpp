@@ -49,7 +49,7 @@ QString ReadIni(const QString& section, const QString& key, const QString& stand
                 const QString& file) {
   QFile ini(file);
   QString value = standard;
-  if (ini.open(QIODevice::ReadOnly))
+  if (!file.isEmpty() && ini.open(QIODevice::ReadOnly))
     value = findValue(fromCodePage(ini.readAll()), section, key).value_or(standard);
   return value.left(kLongestValue);
 }
