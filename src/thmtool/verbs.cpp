@@ -7,6 +7,7 @@ namespace quillane {
 namespace {
 
 constexpr const Verb* kVerbs[] = {
+    &kInfoVerb,
     &kXmlVerb,
     &kUnpackVerb,
     &kPackVerb,

@@ -34,6 +34,7 @@ struct Verb {
   int (*run)(const QCommandLineParser& given, const Streams& streams);
 };
 
+extern const Verb kInfoVerb;
 extern const Verb kXmlVerb;
 extern const Verb kUnpackVerb;
 extern const Verb kPackVerb;

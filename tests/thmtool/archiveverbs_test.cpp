@@ -108,6 +108,7 @@ TEST_F(ArchiveVerbs, UnreadableThemesAreNamed) {
     const QString theme = write(QString::fromLatin1(row.name), row.bytes);
     const std::string complaint = "\"" + theme.toStdString() + "\": " + row.complaint + "\n";
     EXPECT_EQ(runTool({u"xml"_s, theme}), (ToolRun{NotDone, "", "thmtool xml: " + complaint}));
+    EXPECT_EQ(runTool({u"info"_s, theme}), (ToolRun{NotDone, "", "thmtool info: " + complaint}));
   }
 }
 
