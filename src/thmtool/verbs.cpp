@@ -7,10 +7,7 @@ namespace quillane {
 namespace {
 
 constexpr const Verb* kVerbs[] = {
-    &kInfoVerb,
-    &kXmlVerb,
-    &kUnpackVerb,
-    &kPackVerb,
+    &kRenderVerb, &kInfoVerb, &kXmlVerb, &kUnpackVerb, &kPackVerb, &kThumbnailVerb,
 };
 
 }  // namespace

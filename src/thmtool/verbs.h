@@ -34,10 +34,12 @@ struct Verb {
   int (*run)(const QCommandLineParser& given, const Streams& streams);
 };
 
+extern const Verb kRenderVerb;
 extern const Verb kInfoVerb;
 extern const Verb kXmlVerb;
 extern const Verb kUnpackVerb;
 extern const Verb kPackVerb;
+extern const Verb kThumbnailVerb;
 
 /// All verbs, in the order of the help.
 std::span<const Verb* const> verbs();

@@ -109,6 +109,9 @@ TEST_F(ArchiveVerbs, UnreadableThemesAreNamed) {
     const std::string complaint = "\"" + theme.toStdString() + "\": " + row.complaint + "\n";
     EXPECT_EQ(runTool({u"xml"_s, theme}), (ToolRun{NotDone, "", "thmtool xml: " + complaint}));
     EXPECT_EQ(runTool({u"info"_s, theme}), (ToolRun{NotDone, "", "thmtool info: " + complaint}));
+    EXPECT_EQ(runTool({u"render"_s, theme, u"--out"_s, path(u"out"_s)}),
+              (ToolRun{NotDone, "", "thmtool render: " + complaint}));
+    EXPECT_FALSE(QFile::exists(path(u"out"_s)));
   }
 }
 
