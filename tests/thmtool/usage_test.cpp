@@ -124,6 +124,17 @@ TEST(Usage, EveryVerbHelps) {
   }
 }
 
+TEST(Usage, ManualKnowsEveryVerbAndOption) {
+  QFile page(QStringLiteral(MANUAL_PAGE));
+  ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+  const QString manual = QString::fromUtf8(page.readAll()).remove(u'\\');
+  for (const Verb* verb : verbs()) {
+    EXPECT_TRUE(manual.contains(u".B thmtool "_s + verb->name + u'\n')) << verb->name.data();
+    for (const OptionRow& option : verb->options)
+      EXPECT_TRUE(manual.contains(u"--"_s + option.name)) << option.name.data();
+  }
+}
+
 /// Takes nothing: every write to it fails.
 class FullDisk : public std::streambuf {
  protected:
