@@ -162,7 +162,8 @@ ArchiveResult readArchive(QIODevice& device, MemberSink& sink) {
 }
 
 QString memberName(QByteArrayView path) {
-  QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  QStringDecoder utf8(QStringDecoder::Utf8,
+                      QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
   QString name = utf8(path);
   if (utf8.hasError()) name = fromCodePage(path);
   name.remove(0, std::max(name.lastIndexOf(u'/'), name.lastIndexOf(u'\\')) + 1);

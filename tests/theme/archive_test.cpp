@@ -188,6 +188,8 @@ TEST(ReadArchive, ReadsNamesOfEveryForm) {
       {"NUL", QByteArray("a\0b", 3), u""_s},
       {"UTF-8", "\xC3\xA4.gif", u"\u00E4.gif"_s},
       {"Windows-1252", "\xE4\x80.gif", u"\u00E4\u20AC.gif"_s},
+      {"UTF-8 cut at its end", "a\xC3", u"a\u00C3"_s},
+      {"byte order mark", "\xEF\xBB\xBFz", u"\uFEFFz"_s},
       {"overlong UTF-8 separator",
        "a\xC0\xAF"
        "b",
@@ -210,6 +212,13 @@ TEST(ReadArchive, ReadsNamesOfEveryForm) {
     }
   }
   std::setlocale(LC_ALL, "C");
+}
+
+TEST(ReadArchive, SeesANameInRecordsUpToItsNul) {
+  const QByteArray record = TarBuilder::paxRecord("path", QByteArray("a\0/../b", 7));
+  const Reading reading = readBytes(TarBuilder().pax(record).file("other", "x").end().bytes());
+  EXPECT_EQ(reading.code, Success);
+  EXPECT_EQ(reading.names, QStringList(u"a"_s));
 }
 
 TEST(ReadArchive, GoesOnAfterAMalformedExtension) {
