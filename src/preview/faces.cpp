@@ -10,6 +10,7 @@
 #include FT_TRUETYPE_TABLES_H
 
 #include <cmath>
+#include <cstddef>
 #include <cstdio>
 #include <utility>
 
@@ -53,7 +54,7 @@ int scaled(int units, const FT_FaceRec_& face) {
 }
 
 bool isSet(const FT_Bitmap& bitmap, int row, int column) {
-  const unsigned char* line = bitmap.buffer + row * bitmap.pitch;
+  const unsigned char* line = bitmap.buffer + static_cast<std::ptrdiff_t>(row) * bitmap.pitch;
   if (bitmap.pixel_mode == FT_PIXEL_MODE_MONO)
     return ((line[column / 8] >> (7 - column % 8)) & 1) != 0;
   return bitmap.pixel_mode == FT_PIXEL_MODE_GRAY && line[column] >= 128;
@@ -85,6 +86,7 @@ FT_Face openFace(FT_Library library, const QString& path, unsigned pixels) {
 }  // namespace
 
 QStringList splitLines(const QString& text) {
+  if (!text.contains(QLatin1Char('\r')) && !text.contains(QLatin1Char('\n'))) return {text};
   static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
   return text.split(lineEnd);
 }

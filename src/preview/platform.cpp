@@ -33,7 +33,7 @@ QString fileOf(FcPattern* pattern) {
 
 QString findFaceFile(const QString& fileName) {
   for (const char* folder : kFaceFolders)
-    if (const QString path = QLatin1String(folder) + fileName; QFile::exists(path)) return path;
+    if (QString path = QLatin1String(folder) + fileName; QFile::exists(path)) return path;
 
   const Configuration configuration = readConfiguration();
   const Pattern any(FcPatternCreate(), &FcPatternDestroy);
@@ -42,7 +42,7 @@ QString findFaceFile(const QString& fileName) {
       FcFontList(configuration.get(), any.get(), asked), &FcFontSetDestroy);
   FcObjectSetDestroy(asked);
   for (int i = 0; installed != nullptr && i < installed->nfont; ++i)
-    if (const QString path = fileOf(installed->fonts[i]); QFileInfo(path).fileName() == fileName)
+    if (QString path = fileOf(installed->fonts[i]); QFileInfo(path).fileName() == fileName)
       return path;
   return {};
 }

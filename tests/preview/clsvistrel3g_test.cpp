@@ -6,6 +6,7 @@
 #include "preview/screens.h"
 #include "preview/surface.h"
 #include "support/faults.h"
+#include "support/samplephone.h"
 #include "support/stillworld.h"
 
 #include <QTemporaryDir>
@@ -25,25 +26,14 @@ class Vistrel3GTest : public testing::Test {
   void SetUp() override {
     if (faultOf([] { LoadResourcePicture(2200); })) GTEST_SKIP() << "needs the numbered icons";
     engine.setSurface(surface);
-    engine.DrawImages = true;
-    engine.DesktopIcon = 5;
-    engine.OperatorName = QStringLiteral("World");
-    engine.TimeFormat = QStringLiteral("hh:mm");
-    engine.DateFormat = QStringLiteral("dd.mmm.yy");
-    engine.StandbySoftkeyText = QStringLiteral("Calls|More");
-    engine.DesktopSoftkeyText = QStringLiteral("Select");
-    engine.DesktopTitles = QStringLiteral("1|2|3|4|5|6|7|8|9|10|11|12");
-    engine.SoftkeysMenuTitleText = QStringLiteral("One|Two");
-    engine.SoftkeysMenuText1 = QStringLiteral("a|b|c|d|e|f");
-    engine.SoftkeysMenuText2 = QStringLiteral("g|h|i|j|k|l");
-    engine.SoftkeysSoftkeyText = QStringLiteral("Uncheck|Ok");
+    test::fillPhone(engine);
   }
 
   QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
   QString file(QSize size, QRgb color) {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
-    const QString path = folder.filePath(QStringLiteral("%1.bmp").arg(++files));
+    QString path = folder.filePath(QStringLiteral("%1.bmp").arg(++files));
     EXPECT_TRUE(image.save(path));
     return path;
   }

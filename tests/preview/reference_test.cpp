@@ -3,8 +3,14 @@
 #include "reference.h"
 
 #include "preview/modapigraphics.h"
+#include "preview/screens.h"
 #include "preview/surface.h"
+#include "support/samplephone.h"
+#include "support/stillworld.h"
+#include "theme/load.h"
 
+#include <QDir>
+#include <QPainter>
 #include <gmock/gmock.h>
 
 namespace quillane {
@@ -36,6 +42,56 @@ TEST(ReferenceTest, Typefaces) {
     top += 94;
   }
   test::expectReference(QStringLiteral("typefaces/sheet.png"), sheet.image());
+}
+
+/// All screens of a theme side by side, four in a row.
+template <class Engine>
+QImage contactSheet(std::span<const Screen<Engine>> screens, QSize size, const ThemeValues& theme) {
+  constexpr int kColumns = 4;
+  const int rows = (static_cast<int>(screens.size()) + kColumns - 1) / kColumns;
+  QImage sheet(kColumns * size.width(), rows * size.height(), QImage::Format_RGB32);
+  sheet.fill(Qt::white);
+  QPainter painter(&sheet);
+
+  test::StillWorld world;
+  world.nextRandom = -1;
+  Engine engine(world);
+  engine.takeTheme(theme);
+  test::fillPhone(engine);
+  int place = 0;
+  for (const Screen<Engine>& screen : screens) {
+    Surface surface(size);
+    engine.setSurface(surface);
+    screen.paint(engine);
+    painter.drawImage(place % kColumns * size.width(), place / kColumns * size.height(),
+                      surface.image());
+    ++place;
+  }
+  return sheet;
+}
+
+/// Each theme that we ship, as its source folder, and each picture folder has its case.
+TEST(ReferenceTest, Themes) {
+  const auto foldersIn = [](const QString& path) {
+    return QDir(path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+  };
+  const QDir themes(QStringLiteral(THEMES_FOLDER));
+  QStringList cases{QStringLiteral("typefaces")};
+  for (const QString& name : foldersIn(themes.path())) {
+    ImageStates states{};
+    const auto theme = loadTheme(themes.filePath(name), states, [&](const Fault& fault) {
+      ADD_FAILURE() << name.toStdString() << ": " << fault.what();
+    });
+    ASSERT_TRUE(theme) << name.toStdString();
+    EXPECT_EQ(theme->warnings, QStringList()) << name.toStdString();
+    const QImage sheet = theme->values.schema().generation == Generation::Two
+                             ? contactSheet(screensOfGeneration2(), Surface::kSize2, theme->values)
+                             : contactSheet(screensOf3G(), Surface::kSize3G, theme->values);
+    test::expectReference(name + QStringLiteral("/sheet.png"), sheet);
+    cases.append(name);
+  }
+  for (const QString& name : foldersIn(QStringLiteral(REFERENCE_FOLDER)))
+    EXPECT_TRUE(cases.contains(name)) << name.toStdString() << " is a reference of nothing";
 }
 
 }  // namespace
