@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "theme/fault.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace quillane {
+
+/// Makes a folder that is to be written to where it is missing. Throws `Fault`.
+inline void makeOutputFolder(const QString& folder) {
+  if (QDir().mkpath(folder)) return;
+  throw Fault(FaultNumber::NoPermission,
+              QStringLiteral("The folder \"%1\" cannot be made; choose one where you may write.")
+                  .arg(folder));
+}
+
+/// Makes a temporary folder that ends with the object. Throws `Fault`.
+inline QTemporaryDir makeWorkFolder() {
+  QTemporaryDir folder;
+  if (folder.isValid()) return folder;
+  throw Fault(FaultNumber::NoPermission,
+              QStringLiteral("No temporary folder can be made in \"%1\": %2")
+                  .arg(QDir::tempPath(), folder.errorString()));
+}
+
+}  // namespace quillane

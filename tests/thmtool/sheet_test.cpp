@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "thmtool/toolrun.h"
+
+#include <set>
+
+namespace quillane {
+namespace {
+
+class Sheet : public ToolTest {
+ protected:
+  QImage sheet(const QString& theme, const QStringList& words) const {
+    EXPECT_EQ(runTool(QStringList{u"render"_s, theme, u"--sheet"_s, path(u"s.png"_s), u"--now"_s,
+                                  u"2003-06-14 09:41"_s, u"--seed"_s, u"1"_s} +
+                      words),
+              kQuiet);
+    return image(u"s.png"_s);
+  }
+};
+
+/// Places of all exact copies of a part in a picture.
+std::vector<QPoint> placesOf(const QImage& part, const QImage& whole) {
+  std::vector<QPoint> places;
+  const auto isAt = [&](int left, int top) {
+    for (int y = 0; y < part.height(); ++y)
+      for (int x = 0; x < part.width(); ++x)
+        if (part.pixel(x, y) != whole.pixel(left + x, top + y)) return false;
+    return true;
+  };
+  for (int y = 0; y + part.height() <= whole.height(); ++y)
+    for (int x = 0; x + part.width() <= whole.width(); ++x)
+      if (isAt(x, y)) places.push_back({x, y});
+  return places;
+}
+
+std::set<QRgb> colorsIn(const QImage& picture) {
+  std::set<QRgb> colors;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      colors.insert(picture.pixel(x, y));
+  return colors;
+}
+
+TEST_F(Sheet, HoldsEachScreenAboveItsCaption) {
+  const QString theme = theme2("<Theme_name Name=\"Blue\"/>");
+  const QStringList fixed{u"--now"_s, u"2003-06-14 09:41"_s};
+  runTool(QStringList{u"render"_s, theme, u"--out"_s, path(u"out"_s)} + fixed);
+  const QImage sheet = this->sheet(theme, {});
+  for (const QString& file : listOf(u"out"_s)) {
+    const QImage screen = image(u"out/"_s + file);
+    const auto places = placesOf(screen, sheet);
+    ASSERT_EQ(places.size(), 1U) << file.toStdString();
+    const QRect below(places.front() + QPoint(0, screen.height() + 2), QSize(screen.width(), 14));
+    EXPECT_EQ(colorsIn(sheet.copy(below)).size(), 2U)
+        << "caption and paper: " << file.toStdString();
+  }
+}
+
+TEST_F(Sheet, RowsAreFilledEvenly) {
+  const QString theme = theme2("");
+  runTool({u"render"_s, theme, u"--out"_s, path(u"out"_s), u"--screens"_s, u"desktop"_s});
+  const QImage desktop = image(u"out/desktop.png"_s);
+  const struct {
+    int screens;
+    std::size_t columns;
+    std::size_t rows;
+  } rows[] = {{1, 1, 1}, {5, 5, 1}, {6, 3, 2}, {13, 5, 3}};
+  for (const auto& row : rows) {
+    const QStringList ids(row.screens, u"desktop"_s);
+    std::set<int> lefts;
+    std::set<int> tops;
+    const auto places = placesOf(desktop, sheet(theme, {u"--screens"_s, ids.join(u',')}));
+    for (const QPoint& place : places) {
+      lefts.insert(place.x());
+      tops.insert(place.y());
+    }
+    EXPECT_EQ(places.size(), static_cast<std::size_t>(row.screens));
+    EXPECT_EQ(lefts.size(), row.columns) << row.screens;
+    EXPECT_EQ(tops.size(), row.rows) << row.screens;
+  }
+}
+
+TEST_F(Sheet, TitleIsTheThemesNameOrItsFile) {
+  const QStringList one{u"--screens"_s, u"desktop"_s};
+  const QImage named = sheet(pack(u"a"_s, "<Theme_name Name=\"Blue\"/>"), one);
+  EXPECT_EQ(sheet(pack(u"Blue"_s, "<x/>"), one), named);
+  EXPECT_NE(sheet(pack(u"b"_s, "<Theme_name Name=\"Green\"/>"), one), named);
+}
+
+TEST_F(Sheet, LongTitleEndsBeforeTheMargin) {
+  const QImage sheet =
+      this->sheet(theme2("<Theme_name Name=\"" + QByteArray(300, 'W') +
+                         "\"/><Theme_creator Name=\"" + QByteArray(300, 'M') + "\"/>"),
+                  {u"--screens"_s, u"desktop"_s});
+  EXPECT_EQ(colorsIn(sheet.copy(sheet.width() - 12, 0, 12, sheet.height())).size(), 1U);
+  EXPECT_GT(colorsIn(sheet.copy(0, 0, sheet.width(), 45)).size(), 1U);
+}
+
+TEST_F(Sheet, IsMagnifiedAsAWhole) {
+  const QString theme = theme2("");
+  const QImage plain = sheet(theme, {});
+  EXPECT_EQ(sheet(theme, {u"--scale"_s, u"2"_s}), plain.scaled(plain.size() * 2));
+}
+
+}  // namespace
+}  // namespace quillane

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "support/temp_folder.h"
+#include "support/text.h"
+#include "thmtool/tool.h"
+
+#include <QImage>
+#include <QStringList>
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <sstream>
+#include <string>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+/// How a run of the tool ended and what it wrote.
+struct ToolRun {
+  int status;
+  std::string out;
+  std::string err;
+
+  bool operator==(const ToolRun&) const = default;
+};
+
+inline void PrintTo(const ToolRun& run, std::ostream* stream) {
+  *stream << "status " << run.status << ", out \"" << run.out << "\", err \"" << run.err << '"';
+}
+
+inline ToolRun runTool(const QStringList& arguments) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = runTool(arguments, out, err);
+  return {status, out.str(), err.str()};
+}
+
+/// A run without a word.
+inline const ToolRun kQuiet{AllWell, "", ""};
+
+/// Runs of the tool on small themes in a folder of their own.
+class ToolTest : public TempFolder {
+ protected:
+  /// A theme of generation 2 with an XML of these elements, and the path of its file.
+  QString theme2(const QByteArray& elements) const {
+    return pack(u"theme2"_s, "<Ericsson_theme>" + elements + "</Ericsson_theme>");
+  }
+  QString theme3G(const QByteArray& elements) const {
+    return pack(u"theme3g"_s, "<Sony_Ericsson_theme>" + elements + "</Sony_Ericsson_theme>");
+  }
+  /// The files that `write` made earlier below the name of a theme go into it as well.
+  QString pack(const QString& name, const QByteArray& xml) const {
+    write(name + u"/theme.xml"_s, xml);
+    QStringList words{u"pack"_s, path(name + u".thm"_s)};
+    for (const QString& file : listOf(name))
+      words += path(name + u'/' + file);
+    EXPECT_EQ(runTool(words), kQuiet);
+    return path(name + u".thm"_s);
+  }
+
+  QImage image(const QString& name) const { return QImage(path(name), "PNG"); }
+};
+
+}  // namespace quillane
