@@ -24,7 +24,6 @@ constexpr QRgb kMargin = 0xFFD4D0C8;
 class Vistrel3GTest : public testing::Test {
  protected:
   void SetUp() override {
-    if (faultOf([] { LoadResourcePicture(2200); })) GTEST_SKIP() << "needs the numbered icons";
     engine.setSurface(surface);
     test::fillPhone(engine);
   }

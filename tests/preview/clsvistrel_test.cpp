@@ -27,11 +27,6 @@ class VistrelTest : public testing::Test {
     engine.setColor(gen2::DesktopBackgroundColor, QStringLiteral("102030"));
   }
 
-  void SetUp() override {
-    if (test::faultOf([] { LoadResourcePicture(1200); }))
-      GTEST_SKIP() << "needs the numbered icons";
-  }
-
   QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
   int count(QRgb color, const QRect& part = QRect(5, 5, 101, 80)) const {
     int found = 0;

@@ -72,18 +72,19 @@ TEST_F(Info, FaultsOfTheTextAreReportedOnce) {
 
 TEST_F(Info, UnreadableThemeIsAnErrorObject) {
   const QString missing = path(u"x/Green.thm"_s);
-  EXPECT_EQ(runTool({u"info"_s, u"--json"_s, missing}),
-            (ToolRun{NotDone,
-                     "{\n"
-                     "  \"file\": \"Green.thm\",\n"
-                     "  \"error\": {\n"
-                     "    \"code\": 7,\n"
-                     "    \"title\": \"UnTAR operation error 7\",\n"
-                     "    \"text\": \"File \\\"Green.thm\\\" not found or no read permission.\\n\\n"
-                     "Press F5 to refresh themes list.\"\n"
-                     "  }\n"
-                     "}\n",
-                     ""}));
+  EXPECT_EQ(
+      runTool({u"info"_s, u"--json"_s, missing}),
+      (ToolRun{NotDone,
+               "{\n"
+               "  \"file\": \"Green.thm\",\n"
+               "  \"error\": {\n"
+               "    \"code\": 7,\n"
+               "    \"title\": \"UnTAR operation error 7\",\n"
+               "    \"text\": \"File \\\"Green.thm\\\" not found or no read permission.\\r\\n\\r\\n"
+               "Press F5 to refresh themes list.\"\n"
+               "  }\n"
+               "}\n",
+               ""}));
 }
 
 TEST_F(Info, ThemeWithoutXmlIsAnErrorObject) {
