@@ -139,6 +139,16 @@ TEST_F(Render, SeedFixesTheTickBoxes) {
   EXPECT_EQ(image(u"out/softkeys-2.png"_s), alone) << "depends on what was painted before";
 }
 
+TEST_F(Render, SeedGivesEachTickBoxItsOwnNumber) {
+  const QImage screen = this->screen(threeG_, u"softkeys-1"_s, {});
+  int ticked = 0;
+  const QImage tick = screen.copy(5, 42, 11, 11);
+  for (int row = 1; row <= 5; ++row)
+    ticked += screen.copy(5, 42 + 16 * row, 11, 11) == tick ? 1 : 0;
+  EXPECT_GT(ticked, 0);
+  EXPECT_LT(ticked, 5);
+}
+
 TEST_F(Render, UnknownScreenIsWrongUsage) {
   const ToolRun run = runTool(
       {u"render"_s, two_, u"--out"_s, path(u"out"_s), u"--screens"_s, u"desktop,week-calendar"_s});

@@ -96,6 +96,17 @@ TEST_F(Sheet, LongTitleEndsBeforeTheMargin) {
   EXPECT_GT(colorsIn(sheet.copy(0, 0, sheet.width(), 45)).size(), 1U);
 }
 
+TEST_F(Sheet, LongTitleEndsInAnEllipsis) {
+  const auto titled = [this](const QByteArray& name) {
+    return sheet(theme2("<Theme_name Name=\"" + name + "\"/>"), {u"--screens"_s, u"desktop"_s});
+  };
+  const QImage shortened = titled(QByteArray(300, 'W'));
+  int places = 0;
+  for (int letters = 4; letters <= 7; ++letters)
+    places += titled(QByteArray(letters, 'W') + '\x85') == shortened ? 1 : 0;
+  EXPECT_EQ(places, 1);
+}
+
 TEST_F(Sheet, IsMagnifiedAsAWhole) {
   const QString theme = theme2("");
   const QImage plain = sheet(theme, {});
