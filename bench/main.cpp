@@ -101,8 +101,9 @@ QString sampleTheme(const char* name) {
   return QStringLiteral(SAMPLE_THEMES "/") + QLatin1String(name) + QLatin1String(".thm");
 }
 
-/// What an extraction costs at least: libarchive's reader and plain files.
+/// What an extraction costs at least: libarchive's reader and plain new files.
 void extractBarely(const QString& theme, const QString& folder) {
+  DeleteFiles(folder + QLatin1String("*.*"));
   archive* reader = archive_read_new();
   archive_read_support_format_tar(reader);
   archive_read_open_filename(reader, QFile::encodeName(theme).constData(), 10240);

@@ -5,6 +5,7 @@
 #include "forms/eventprocedure.h"
 #include "forms/formicons.h"
 #include "forms/frmsplash.h"
+#include "shell/instance.h"
 #include "shell/modmain.h"
 #include "shell/places.h"
 #include "shell/settings.h"
@@ -53,11 +54,6 @@ QString commandLine() {
   return QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
 }
 
-bool isAlone(QLockFile& lock) {
-  lock.setStaleLockTime(0);
-  return lock.tryLock(0) || lock.error() != QLockFile::LockFailedError;
-}
-
 int run() {
   DesktopDialogs dialogs;
   const FaultReporter report = [&dialogs](const Fault& fault) {
@@ -66,21 +62,20 @@ int run() {
   const Places places = placesOfDesktop(QCoreApplication::applicationDirPath());
   QDir().mkpath(places.programFolder);
   QLockFile lock(places.programFolder + QLatin1String("/quillane.lock"));
-  if (!isAlone(lock)) return 0;
-
   SystemWorld world;
   PublicState state;
-  IniSettings settings(places.settingsFile, report);
-  DesktopScreen screen(dialogs, [&] {
-    return std::make_unique<frmBrowser>(state, settings, dialogs, world, commandLine());
-  });
   try {
+    if (!takeInstanceLock(lock)) return 0;
+    IniSettings settings(places.settingsFile, report);
+    DesktopScreen screen(dialogs, [&] {
+      return std::make_unique<frmBrowser>(state, settings, dialogs, world, commandLine());
+    });
     if (!Main(state, settings, places, world, screen, report)) return 1;
+    return QCoreApplication::exec();
   } catch (const Fault& fault) {
     report(fault);
     return 1;
   }
-  return QCoreApplication::exec();
 }
 
 }  // namespace

@@ -20,8 +20,6 @@ namespace quillane {
 
 namespace {
 
-const QString kTag = QStringLiteral("in Quillane.frmBrowser.Form_Load ");
-
 /// A folder variable that the end of the program writes to the settings.
 struct KeptFolder {
   const Setting& setting;
@@ -83,7 +81,8 @@ void frmBrowser::Form_Load(const QString& commandLine) {
   Tips = std::make_unique<cTooltips>(ui_->picToolTip);
   ui_->filFiles->setEnding(QStringLiteral(".thm"));
   ui_->filFiles->setPath(state_.BrowseFolder);
-  eventProcedure(dialogs_, this, kTag, [this] { ui_->filFiles->refresh(); });
+  eventProcedure(dialogs_, this, QStringLiteral("in Quillane.frmBrowser.Form_Load "),
+                 [this] { ui_->filFiles->refresh(); });
   showCaption();
   showThemeCount();
   ui_->lblSize->clear();
@@ -149,6 +148,8 @@ void frmBrowser::Form_Unload() {
   DeleteFiles(state_.AppTempFolder + QLatin1String("*.*"));
   for (const KeptFolder& kept : kKeptFolders)
     settings_.write(kept.setting, state_.*kept.variable);
+  eventProcedure(dialogs_, this, QStringLiteral("in Quillane.frmBrowser.Form_Unload "),
+                 [this] { settings_.flush(); });
 }
 
 void frmBrowser::keyPressEvent(QKeyEvent* event) {

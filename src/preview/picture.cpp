@@ -3,10 +3,10 @@
 #include "preview/picture.h"
 
 #include "theme/fault.h"
+#include "theme/files.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
+#include <QCache>
 #include <QHash>
 #include <QImageReader>
 #include <QScopeGuard>
@@ -22,6 +22,7 @@ namespace quillane {
 namespace {
 
 constexpr int kLongestSide = 4096;
+constexpr qsizetype kRememberedBytes = 8 * 1024 * 1024;
 constexpr int kAllocationLimit = 64;  // MB: a picture of the longest sides at 32 bits.
 
 /// Pixels as the placement rules see them: HIMETRIC at 96 dots per inch, rounded half up, divided
@@ -52,19 +53,34 @@ QSize gifScreen(const QByteArray& start) {
   return {word(6), word(8)};
 }
 
-[[noreturn]] void throwUnreadable(const QString& path) {
-  throw Fault(FaultNumber::BadPicture, QStringLiteral("Invalid picture: ") + path);
-}
+/// Decodes the bytes of a picture file; a null image when they are none.
+QImage decode(QByteArray bytes) {
+  const QByteArray format = formatOf(bytes);
+  if (format.isEmpty() || bytes.size() < 10) return {};
+  if (format == "gif" && isTooLarge(gifScreen(bytes))) return {};
 
-QImage decode(QFile& file, const QByteArray& format) {
   const int formerLimit = QImageReader::allocationLimit();
   QImageReader::setAllocationLimit(kAllocationLimit);
   const auto restore = qScopeGuard([=] { QImageReader::setAllocationLimit(formerLimit); });
 
-  QImageReader reader(&file, format);
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer, format);
   reader.setAutoDetectImageFormat(false);
   if (isTooLarge(reader.size())) return {};
-  return reader.read();
+  const QImage image = reader.read();
+  return isTooLarge(image.size()) ? QImage() : image;
+}
+
+/// Decodes, or remembers having decoded the same bytes: the screens of a theme share their
+/// pictures, and decoding costs many times what reading the file does.
+Picture decodeOnce(const QByteArray& bytes) {
+  thread_local QCache<QByteArray, Picture> decoded(kRememberedBytes);
+  if (const Picture* known = decoded.object(bytes)) return *known;
+
+  const Picture picture(decode(bytes));
+  const qsizetype cost = bytes.size() + picture.image().sizeInBytes();
+  decoded.insert(bytes, new Picture(picture), cost);
+  return picture;
 }
 
 }  // namespace
@@ -87,20 +103,12 @@ int Picture::height() const {
 }
 
 Picture LoadPicture(const QString& path) {
-  if (!QFileInfo(path).isFile())
-    throw Fault(FaultNumber::FileNotFound, QStringLiteral("File not found: ") + path);
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly))
-    throw Fault(FaultNumber::NoPermission, QStringLiteral("Cannot read: ") + path);
-
-  const QByteArray start = file.peek(10);
-  const QByteArray format = formatOf(start);
-  if (format.isEmpty() || start.size() < 10) throwUnreadable(path);
-  if (format == "gif" && isTooLarge(gifScreen(start))) throwUnreadable(path);
-
-  QImage image = decode(file, format);
-  if (image.isNull() || isTooLarge(image.size())) throwUnreadable(path);
-  return Picture(std::move(image));
+  Picture picture = decodeOnce(readFile(path));
+  if (picture.isNull())
+    throw Fault(
+        FaultNumber::BadPicture,
+        QStringLiteral("\"%1\" is no GIF, JPEG, BMP or icon file that can be shown.").arg(path));
+  return picture;
 }
 
 Picture LoadResourcePicture(int id) {
@@ -112,7 +120,7 @@ Picture LoadResourcePicture(int id) {
   QImage image(QStringLiteral(":/CUSTOM/%1.png").arg(id), "png");
   if (image.isNull())
     throw Fault(FaultNumber::ResourceNotFound,
-                QStringLiteral("Resource with identifier '%1' not found").arg(id));
+                QStringLiteral("The numbered icon %1 does not exist.").arg(id));
   return *decoded.insert(id, Picture(std::move(image)));
 }
 

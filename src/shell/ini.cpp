@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace quillane {
@@ -14,10 +16,26 @@ namespace {
 
 constexpr qsizetype kLongestValue = 254;
 
+bool isBlank(QChar character) {
+  return character == QLatin1Char(' ') || character == QLatin1Char('\t') ||
+         character == QLatin1Char('\r');
+}
+
+/// Without the blanks at both ends; other characters that count as space belong to the text.
+QString stripped(const QString& text) {
+  const auto begin = std::find_if_not(text.begin(), text.end(), isBlank);
+  const auto end =
+      std::find_if_not(text.rbegin(), std::make_reverse_iterator(begin), isBlank).base();
+  return text.mid(begin - text.begin(), end - begin);
+}
+
+/// Without one pair of quotes, and then without blanks at the begin.
 QString unquoted(const QString& value) {
   const bool quoted = value.size() >= 2 && value.front() == value.back() &&
                       (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\''));
-  return quoted ? value.mid(1, value.size() - 2) : value;
+  if (!quoted) return value;
+  const auto begin = std::find_if_not(value.begin() + 1, value.end() - 1, isBlank);
+  return value.mid(begin - value.begin()).chopped(1);
 }
 
 bool isSection(const QString& line, const QString& section) {
@@ -29,7 +47,7 @@ bool isSection(const QString& line, const QString& section) {
 std::optional<QString> findValue(const QString& text, const QString& section, const QString& key) {
   bool inside = false;
   for (const QString& raw : text.split(QLatin1Char('\n'))) {
-    const QString line = raw.trimmed();
+    const QString line = stripped(raw);
     if (line.startsWith(QLatin1Char('['))) {
       if (inside) return std::nullopt;
       inside = isSection(line, section);
@@ -37,8 +55,8 @@ std::optional<QString> findValue(const QString& text, const QString& section, co
     }
     const qsizetype equals = line.indexOf(QLatin1Char('='));
     if (!inside || equals < 0 || line.startsWith(QLatin1Char(';'))) continue;
-    if (line.left(equals).trimmed().compare(key, Qt::CaseInsensitive) == 0)
-      return unquoted(line.mid(equals + 1).trimmed());
+    if (stripped(line.left(equals)).compare(key, Qt::CaseInsensitive) == 0)
+      return unquoted(stripped(line.mid(equals + 1)));
   }
   return std::nullopt;
 }

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/language.h"
 
+#include "shell/files.h"
 #include "shell/ini.h"
 #include "shell/settings.h"
 #include "shell/state.h"
+
+#include <QFile>
 
 namespace quillane {
 
@@ -95,11 +98,20 @@ void readPhoneState(Engine& engine, const SettingsStore& settings, const FaultRe
   engine.BatteryLevel = numberSetting(settings, setting::BatteryLevel, report);
 }
 
+void reportUnreadable(const QString& file, const FaultReporter& report) {
+  if (!FileExists(file) || QFile(file).open(QIODevice::ReadOnly)) return;
+  report(
+      Fault(FaultNumber::NoPermission,
+            QStringLiteral("The language file \"%1\" cannot be read; the standard texts are shown.")
+                .arg(file)));
+}
+
 }  // namespace
 
 void InitPreview2(clsVistrel& engine, PublicState& state, const SettingsStore& settings,
                   const FaultReporter& report) {
   const QString file = state.ConfigFolder2 + state.LanguageFile2;
+  reportUnreadable(file, report);
   readPhoneState(engine, settings, report);
   engine.DesktopIcon = numberSetting(settings, setting::DesktopIcon2, report);
   readTexts(engine, kTexts2, file);
@@ -111,10 +123,12 @@ void InitPreview2(clsVistrel& engine, PublicState& state, const SettingsStore& s
 
 void InitPreview3G(clsVistrel3G& engine, const PublicState& state, const SettingsStore& settings,
                    const FaultReporter& report) {
+  const QString file = state.ConfigFolder3G + state.LanguageFile3G;
+  reportUnreadable(file, report);
   readPhoneState(engine, settings, report);
   engine.DateFormat = settings.read(setting::DateFormat3G);
   engine.DesktopIcon = numberSetting(settings, setting::DesktopIcon3G, report);
-  readTexts(engine, kTexts3G, state.ConfigFolder3G + state.LanguageFile3G);
+  readTexts(engine, kTexts3G, file);
   engine.DrawImages = true;
 }
 

@@ -10,6 +10,7 @@
 #include "shell/state.h"
 
 #include <QDir>
+#include <QFile>
 #include <QImageWriter>
 
 namespace quillane {
@@ -30,7 +31,8 @@ void prepareWorkFolder(PublicState& state, const QString& programFolder) {
             .arg(state.AppTempFolder, programFolder));
   DeleteFiles(state.AppTempFolder + QLatin1String("*.*"));
   const QString left = state.AppTempFolder + QLatin1String("new");
-  if (!FolderExists(left)) return;
+  // A link must not lead the emptying into somebody else's folder.
+  if (QFile::remove(left) || !FolderExists(left)) return;
   DeleteFiles(left + QLatin1String("/*.*"));
   QDir().rmdir(left);
 }

@@ -3,13 +3,15 @@
 #include "shell/seed.h"
 
 #include "shell/places.h"
+#include "theme/files.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSet>
+
+#include <optional>
 
 namespace quillane {
 
@@ -26,21 +28,43 @@ void writeNotes(const QString& path, const QSet<QString>& copied) {
   QStringList lines(copied.begin(), copied.end());
   lines.removeAll(QString());
   lines.sort();
-  QSaveFile file(path);
-  const QByteArray text = lines.join(QLatin1Char('\n')).toUtf8() + '\n';
-  if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-    throw Fault(FaultNumber::DeviceFault,
-                QStringLiteral("\"%1\" cannot be written: %2.").arg(path, file.errorString()));
+  saveFile(path, lines.join(QLatin1Char('\n')).toUtf8() + '\n');
 }
 
 // Shipped files may be read-only; the user's copies are not.
 void copyFile(const QString& from, const QString& to) {
-  QFile source(from);
-  if (!QDir().mkpath(QFileInfo(to).path()) || !source.copy(to))
-    throw Fault(FaultNumber::DeviceFault, QStringLiteral("\"%1\" cannot be copied to \"%2\": %3.")
-                                              .arg(from, to, source.errorString()));
+  saveFile(to, readFile(from));
   QFile::setPermissions(to, QFile::permissions(to) | QFile::WriteOwner);
 }
+
+/// Gathers the faults of one run, which mostly have one cause, into one report.
+class Faults {
+ public:
+  template <typename Step>
+  bool succeeds(Step&& step) {
+    try {
+      step();
+      return true;
+    } catch (const Fault& fault) {
+      if (!first_) first_ = fault;
+      ++count_;
+    }
+    return false;
+  }
+
+  void reportTo(const FaultReporter& report) const {
+    if (!first_) return;
+    QString text =
+        QStringLiteral("What belongs to the program could not be copied into its folder. ") +
+        first_->description();
+    if (count_ > 1) text += QStringLiteral(" (And %1 more.)").arg(count_ - 1);
+    report(Fault(first_->number(), text));
+  }
+
+ private:
+  std::optional<Fault> first_;
+  int count_ = 0;
+};
 
 }  // namespace
 
@@ -50,24 +74,21 @@ void seedProgramFolder(const Places& places, const FaultReporter& report) {
   const QString notes = home.filePath(QStringLiteral("seeded.txt"));
   QSet<QString> copied = readNotes(notes);
   const QSet<QString> before = copied;
+  Faults faults;
   QDirIterator files(shipped.path(), QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
     const QString from = files.next();
     const QString name = shipped.relativeFilePath(from);
     const QString to = home.filePath(name);
     if (copied.contains(name)) continue;
-    try {
+    const auto copy = [&] {
+      QDir().mkpath(QFileInfo(to).path());
       if (!QFileInfo::exists(to)) copyFile(from, to);
-      copied.insert(name);
-    } catch (const Fault& fault) {
-      report(fault);
-    }
+    };
+    if (faults.succeeds(copy)) copied.insert(name);
   }
-  try {
-    if (copied != before) writeNotes(notes, copied);
-  } catch (const Fault& fault) {
-    report(fault);
-  }
+  if (copied != before) faults.succeeds([&] { writeNotes(notes, copied); });
+  faults.reportTo(report);
 }
 
 }  // namespace quillane

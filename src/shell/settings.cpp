@@ -2,9 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/settings.h"
 
+#include "theme/files.h"
+
 #include <QFile>
+#include <QLocale>
 #include <QSettings>
 #include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace quillane {
 
@@ -20,6 +27,49 @@ QString textOf(const QVariant& value) {
                                                   : value.toString();
 }
 
+bool isSettingsLine(QByteArrayView line) {
+  return line.isEmpty() || line.startsWith(';') || line.contains('=') ||
+         (line.startsWith('[') && line.endsWith(']'));
+}
+
+bool isSettingsText(const QByteArray& text) {
+  const QList<QByteArray> lines = text.split('\n');
+  return std::all_of(lines.begin(), lines.end(),
+                     [](const QByteArray& line) { return isSettingsLine(line.trimmed()); });
+}
+
+// The store drops what it cannot read when it next writes the file.
+void keepWhenBroken(const QString& file, const FaultReporter& report) {
+  QFile ini(file);
+  if (!ini.open(QIODevice::ReadOnly)) return;
+  const QByteArray text = ini.readAll();
+  if (isSettingsText(text)) return;
+  const QString kept = file + QLatin1String(".broken");
+  QString outcome = QStringLiteral("It is kept as \"%1\".").arg(kept);
+  try {
+    saveFile(kept, text);
+  } catch (const Fault& fault) {
+    outcome = QStringLiteral("It could not be kept: %1").arg(fault.description());
+  }
+  report(Fault(FaultNumber::DeviceFault,
+               QStringLiteral("The settings file \"%1\" holds lines that are no settings. %2 "
+                              "What could be read is in force.")
+                   .arg(file, outcome)));
+}
+
+double numberOf(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {
+  const QString text = store.read(setting);
+  bool isNumber = false;
+  const double value = QLocale::c().toDouble(text.trimmed(), &isNumber);
+  if (isNumber) return value;
+  const QString standard = QLatin1String(setting.standard);
+  report(
+      Fault(FaultNumber::BadNumber,
+            QStringLiteral("The setting %1 holds \"%2\", which is no number; %3 is used instead.")
+                .arg(nameOf(setting), text, standard)));
+  return standard.toDouble();
+}
+
 }  // namespace
 
 QString MemorySettings::read(const Setting& setting) const {
@@ -30,18 +80,15 @@ void MemorySettings::write(const Setting& setting, const QString& value) {
   values_.insert(nameOf(setting), value);
 }
 
-IniSettings::IniSettings(const QString& file, const FaultReporter& report)
-    : settings_(std::make_unique<QSettings>(file, QSettings::IniFormat)) {
-  if (settings_->status() != QSettings::FormatError) return;
-  const QString kept = file + QLatin1String(".broken");
-  QFile::remove(kept);
-  QFile::rename(file, kept);
+IniSettings::IniSettings(const QString& file, const FaultReporter& report) {
+  keepWhenBroken(file, report);
   settings_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
-  report(
-      Fault(FaultNumber::DeviceFault,
-            QStringLiteral("The settings file \"%1\" cannot be understood. It was kept as \"%2\", "
-                           "and the standard settings are in force.")
-                .arg(file, kept)));
+  if (settings_->status() == QSettings::AccessError)
+    report(
+        Fault(FaultNumber::NoPermission,
+              QStringLiteral("The settings file \"%1\" cannot be read. The standard settings are "
+                             "in force; allow reading and writing it and start again.")
+                  .arg(file)));
 }
 
 IniSettings::~IniSettings() = default;
@@ -54,21 +101,29 @@ void IniSettings::write(const Setting& setting, const QString& value) {
   settings_->setValue(nameOf(setting), value);
 }
 
+void IniSettings::flush() {
+  settings_->sync();
+  if (settings_->status() == QSettings::NoError) return;
+  throw Fault(
+      FaultNumber::NoPermission,
+      QStringLiteral("The settings file \"%1\" cannot be written, so the folders in use are "
+                     "not kept.")
+          .arg(settings_->fileName()));
+}
+
 int numberSetting(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {
-  const QString text = store.read(setting);
-  bool isNumber = false;
-  const int value = text.trimmed().toShort(&isNumber);
-  if (isNumber) return value;
+  const double value = std::nearbyint(numberOf(store, setting, report));
+  if (std::abs(value) <= std::numeric_limits<std::int16_t>::max()) return static_cast<int>(value);
   const QString standard = QLatin1String(setting.standard);
   report(
       Fault(FaultNumber::BadNumber,
-            QStringLiteral("The setting %1 holds \"%2\", which is no number; %3 is used instead.")
-                .arg(nameOf(setting), text, standard)));
+            QStringLiteral("The setting %1 holds a number that is too large; %2 is used instead.")
+                .arg(nameOf(setting), standard)));
   return standard.toInt();
 }
 
 bool flagSetting(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {
-  return numberSetting(store, setting, report) != 0;
+  return numberOf(store, setting, report) != 0;
 }
 
 }  // namespace quillane

@@ -65,6 +65,8 @@ class SettingsStore {
   /// The stored text, or the setting's default.
   virtual QString read(const Setting& setting) const = 0;
   virtual void write(const Setting& setting, const QString& value) = 0;
+  /// Makes sure that what was written is kept. Throws `Fault` when it cannot be.
+  virtual void flush() = 0;
 };
 
 /// Settings that end with the object; what is not written has its default.
@@ -72,6 +74,7 @@ class MemorySettings : public SettingsStore {
  public:
   QString read(const Setting& setting) const override;
   void write(const Setting& setting, const QString& value) override;
+  void flush() override {}
 
  private:
   QHash<QString, QString> values_;
@@ -80,19 +83,21 @@ class MemorySettings : public SettingsStore {
 /// The settings of the user in an INI file, one group a section.
 class IniSettings : public SettingsStore {
  public:
-  /// `file` is made at the first write. A file that is no INI file is kept beside it, under its
-  /// name and ".broken", and `report` hears of it.
+  /// `file` is made at the first write. One with lines that are no settings is kept beside it,
+  /// under its name and ".broken"; `report` hears of that and of a file that cannot be read.
   IniSettings(const QString& file, const FaultReporter& report);
   ~IniSettings() override;
 
   QString read(const Setting& setting) const override;
   void write(const Setting& setting, const QString& value) override;
+  void flush() override;
 
  private:
   std::unique_ptr<QSettings> settings_;
 };
 
-/// A setting as a 16-bit number. A text that is none is reported, and the default serves.
+/// A setting as a 16-bit number, rounded half to even. A text that is none is reported, and the
+/// default serves.
 int numberSetting(const SettingsStore& store, const Setting& setting, const FaultReporter& report);
 
 /// A setting as a flag: any number but 0 is true.

@@ -175,8 +175,8 @@ TEST_F(Render, FaultKeepsWhatWasPainted) {
                      u"desktop,softkeys-1"_s}),
             (ToolRun{NotDone, "",
                      "thmtool render: \"" + theme.toStdString() +
-                         "\": Screen \"softkeys-1\" is painted in part only: Invalid picture: "
-                         "bad.gif\n"}));
+                         "\": Screen \"softkeys-1\" is painted in part only: \"bad.gif\" is "
+                         "no GIF, JPEG, BMP or icon file that can be shown.\n"}));
   EXPECT_EQ(image(u"out/softkeys-1.png"_s).pixel(0, 20), 0xFF00FF00U);
   EXPECT_FALSE(image(u"out/desktop.png"_s).isNull());
 }
