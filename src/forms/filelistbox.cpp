@@ -99,7 +99,7 @@ void FileListBox::invertSelection() {
 void FileListBox::keyPressEvent(QKeyEvent* event) {
   const bool isStep = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
   if (isStep && selectionModel()->selection().isEmpty())
-    setCurrentIndex(currentIndex());
+    selectOnly(qMax(0, currentIndex().row()));
   else
     QListView::keyPressEvent(event);
 }
