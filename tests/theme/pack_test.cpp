@@ -7,6 +7,9 @@
 #include "theme/values.h"
 
 #include <QDateTime>
+#include <QFileInfo>
+
+#include <sys/stat.h>
 
 namespace quillane {
 namespace {
@@ -130,6 +133,13 @@ TEST_F(Pack, ListsNamesAndSizes) {
   EXPECT_EQ(themeIndex(files, IndexEnd::LineEnd), index + "\r\n");
   EXPECT_EQ(themeIndex({}, IndexEnd::LineEnd), "");
   EXPECT_EQ(faultNumberOf([&] { themeIndex({path(u"missing"_s)}, IndexEnd::Bare); }), 53);
+}
+
+TEST_F(Pack, LeavesAPipeInItsPlace) {
+  const QString pipe = path(u"pipe.thm"_s);
+  ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+  EXPECT_NE(faultNumberOf([&] { packArchive(pipe, {write(u"a.xml"_s, "x")}); }), 0);
+  EXPECT_TRUE(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
 }
 
 TEST(ThemeImages, FollowTheTableAndLeaveOutSharedOnesOfGeneration2) {

@@ -110,6 +110,7 @@ TEST_F(Render, OptionsChangeTheirScreens) {
       {"date format", u"standby", {u"--date-format"_s, u"yyyy"_s}, ThreeG},
       {"GPRS off", u"standby", {u"--gprs"_s, u"off"_s}, Both},
       {"GPRS out of range", u"standby", {u"--gprs"_s, u"0"_s}, Both},
+      {"GPRS range above 1 is 1", u"standby", {u"--gprs"_s, u"2"_s}, Nothing},
       {"GPRS in range", u"standby", {u"--gprs"_s, u"1"_s}, Nothing},
       {"infrared", u"standby", {u"--ir"_s}, Two},
       {"language", u"desktop", {u"--language"_s, language}, Both},
@@ -164,7 +165,7 @@ TEST_F(Render, MissingLanguageFile) {
   const QString file = path(u"none.lng"_s);
   EXPECT_EQ(runTool({u"render"_s, two_, u"--out"_s, path(u"out"_s), u"--language"_s, file}),
             (ToolRun{NotDone, "",
-                     "thmtool render: Language file \"" + file.toStdString() + "\" not found.\n"}));
+                     "thmtool render: File \"" + file.toStdString() + "\" not found.\n"}));
 }
 
 TEST_F(Render, FaultKeepsWhatWasPainted) {

@@ -41,7 +41,7 @@ constexpr WrongUse kWrongUses[] = {
      "thmtool render: \"2.5\" of --battery is no whole number. \"thmtool render --help\" tells "
      "more.\n"},
     {"Gprs", "render|x.thm|--gprs|on",
-     "thmtool render: \"on\" of --gprs is none of 0, 1 and off. \"thmtool render --help\" tells "
+     "thmtool render: \"on\" of --gprs is no whole number. \"thmtool render --help\" tells "
      "more.\n"},
     {"Border", "render|x.thm|--border|wide",
      "thmtool render: \"wide\" of --border is none of none, single and default. \"thmtool render "
