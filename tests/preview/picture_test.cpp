@@ -2,22 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/picture.h"
 
-#include "support/faults.h"
+#include "support/temp_folder.h"
+#include "support/text.h"
 #include "support/tinygif.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
+#include <QRegion>
 
 namespace quillane {
 namespace {
 
-using test::faultOf;
-using test::tinyGif;
+class PictureTest : public TempFolder {
+ protected:
+  QImage load(const char* name, const QByteArray& bytes) const {
+    return LoadPicture(write(QString::fromUtf8(name), bytes)).image();
+  }
+};
 
-TEST(PictureTest, SizesForPlacementAreCutFromHimetric) {
+TEST_F(PictureTest, SizesForPlacementAreCutFromHimetric) {
   const struct {
     int pixels;
     int seen;
@@ -31,7 +33,7 @@ TEST(PictureTest, SizesForPlacementAreCutFromHimetric) {
   EXPECT_EQ(Picture().height(), 0);
 }
 
-TEST(PictureTest, PixelsAreOpaqueOrAbsent) {
+TEST_F(PictureTest, PixelsAreOpaqueOrAbsent) {
   QImage image(3, 1, QImage::Format_ARGB32);
   image.setPixel(0, 0, 0x7F123456);
   image.setPixel(1, 0, 0x80123456);
@@ -52,15 +54,7 @@ QByteArray encoded(const char* format, QSize size = {3, 2}) {
   return bytes;
 }
 
-TEST(PictureTest, FilesAreReadByContent) {
-  const QTemporaryDir folder;
-  const auto load = [&](const char* name, const QByteArray& bytes) {
-    QFile file(folder.filePath(QString::fromUtf8(name)));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
-    return LoadPicture(file.fileName()).image();
-  };
+TEST_F(PictureTest, FilesAreReadByContent) {
   const QRect whole(0, 0, 3, 2);
   const QByteArray gif = tinyGif({3, 2}, whole, 1);
   const QByteArray longGif = tinyGif({30, 20}, {0, 0, 30, 20}, 1);
@@ -75,7 +69,7 @@ TEST(PictureTest, FilesAreReadByContent) {
       {"gif without a suffix", gif, {3, 2}},
       {"gif@2x.gif", gif, {3, 2}},
       {"gif cut in its data.gif", longGif.chopped(40), {30, 20}},
-      {"gif of the longest side.gif", tinyGif({4096, 1}, whole, 1), {4096, 1}},
+      {"gif of the longest sides.gif", tinyGif({4096, 4096}, whole, 1), {4096, 4096}},
       {"gif frame below its screen.gif", tinyGif({8, 7}, {2, 3, 3, 2}, 1), {8, 7}},
       {"gif frame beyond its screen.gif", tinyGif({2, 2}, {0, 0, 30, 20}, 1), {2, 2}},
       {"jpeg.jpg", encoded("jpeg"), {3, 2}},
@@ -105,30 +99,76 @@ TEST(PictureTest, FilesAreReadByContent) {
       {"jpeg cut in its header.jpg", encoded("jpeg").left(20)},
   };
   for (const auto& row : unreadable)
-    EXPECT_EQ(faultOf([&] { load(row.name, row.bytes); }), FaultNumber::BadPicture) << row.name;
+    EXPECT_EQ(faultNumberOf([&] { load(row.name, row.bytes); }), 481) << row.name;
+  EXPECT_EQ(faultNumberOf([&] { LoadPicture(path(QStringLiteral("none.gif"))); }), 53);
+  EXPECT_EQ(faultNumberOf([&] { LoadPicture(path()); }), 53);
 
-  EXPECT_EQ(faultOf([&] { LoadPicture(folder.filePath(QStringLiteral("none.gif"))); }),
-            FaultNumber::FileNotFound);
-  EXPECT_EQ(faultOf([&] { LoadPicture(folder.path()); }), FaultNumber::FileNotFound);
+  // The first of two frames; the second one begins behind header and palette.
+  const QByteArray twoFrames = gif.chopped(1) + tinyGif({3, 2}, whole, 2).mid(25);
+  EXPECT_EQ(load("two frames.gif", twoFrames).pixel(0, 0), 0xFFFF0000);
 }
 
-TEST(PictureTest, TransparentGifKeepsItsHoles) {
-  const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("hole.gif")));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(tinyGif({4, 3}, {1, 1, 2, 1}, 1, 2));
-  file.close();
-  const QImage image = LoadPicture(file.fileName()).image();
-  ASSERT_EQ(image.format(), QImage::Format_ARGB32);
-  for (int y = 0; y < 3; ++y)
-    for (int x = 0; x < 4; ++x) {
-      const bool inFrame = y == 1 && (x == 1 || x == 2);
-      EXPECT_EQ(qAlpha(image.pixel(x, y)), inFrame ? 255 : 0) << x << "," << y;
-    }
+/// An icon file of one black picture, 33 x 2, whose AND mask hides the pixels (1, 0) and (32, 1).
+QByteArray maskedIcon(int bits, int maskBytes = 16) {
+  const auto number = [](qint64 value, int width) {
+    QByteArray bytes;
+    for (; width > 0; --width, value >>= 8)
+      bytes += static_cast<char>(value & 255);
+    return bytes;
+  };
+  const int colors = bits <= 8 ? 1 << bits : 0;
+  const QByteArray dib = number(40, 4) + number(33, 4) + number(4, 4) + number(1, 2) +
+                         number(bits, 2) + QByteArray(24 + 4 * colors, 0) +
+                         QByteArray((33 * bits + 31) / 32 * 4 * 2, 0) +
+                         QByteArray::fromHex("00000000800000004000000000000000").left(maskBytes);
+  return QByteArray::fromHex("0000010001002102000001000000") + number(dib.size(), 4) +
+         number(22, 4) + dib;
 }
 
-TEST(PictureTest, UnknownIconIsAFault) {
-  EXPECT_EQ(faultOf([] { LoadResourcePicture(9999); }), FaultNumber::ResourceNotFound);
+TEST_F(PictureTest, TransparentPicturesKeepTheirHoles) {
+  const QRegion icon(0, 0, 33, 2);
+  const QRegion holes = QRegion(1, 0, 1, 1) + QRegion(32, 1, 1, 1);
+  const struct {
+    const char* name;
+    QByteArray bytes;
+    QRegion seen;
+  } table[] = {
+      {"gif", tinyGif({4, 3}, {1, 1, 2, 1}, 1, 2), {1, 1, 2, 1}},
+      {"icon, 1 bit", maskedIcon(1), icon - holes},
+      {"icon, 4 bits", maskedIcon(4), icon - holes},
+      {"icon, 8 bits", maskedIcon(8), icon - holes},
+      {"icon, 24 bits", maskedIcon(24), icon - holes},
+      {"icon, 24 bits, mask cut", maskedIcon(24, 8), icon - QRegion(32, 1, 1, 1)},
+  };
+  for (const auto& row : table) {
+    const QImage image = load(row.name, row.bytes);
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        EXPECT_EQ(qAlpha(image.pixel(x, y)), row.seen.contains(QPoint(x, y)) ? 255 : 0)
+            << row.name << " " << x << "," << y;
+  }
+}
+
+TEST_F(PictureTest, NumberedIcons) {
+  const struct {
+    int first, last;
+    QSize size;
+  } table[] = {
+      {1000, 1000, {101, 80}},  {1001, 1007, {33, 21}},   {1008, 1008, {33, 20}},
+      {1009, 1009, {33, 21}},   {1100, 1110, {20, 10}},   {1200, 1205, {16, 9}},
+      {1300, 1301, {16, 8}},    {1400, 1401, {9, 9}},     {1500, 1500, {8, 11}},
+      {2000, 2000, {128, 127}}, {2001, 2012, {40, 25}},   {2100, 2110, {18, 9}},
+      {2200, 2205, {16, 9}},    {2300, 2301, {14, 8}},    {2400, 2400, {11, 11}},
+      {2500, 2501, {10, 10}},   {2600, 2600, {110, 103}}, {101, 102, {20, 20}},
+      {103, 107, {16, 16}},     {108, 108, {32, 32}},     {109, 131, {16, 16}},
+      {132, 135, {20, 20}},     {136, 148, {16, 16}},     {211, 214, {24, 24}},
+  };
+  for (const auto& row : table)
+    for (int id = row.first; id <= row.last; ++id)
+      EXPECT_EQ(LoadResourcePicture(id).image().size(), row.size) << id;
+  for (const int board : {1000, 2000})
+    EXPECT_EQ(qAlpha(LoadResourcePicture(board).image().pixel(0, 40)), 0) << board;
+  EXPECT_EQ(faultNumberOf([] { LoadResourcePicture(9999); }), 326);
 }
 
 }  // namespace

@@ -10,7 +10,6 @@
 namespace quillane {
 namespace {
 
-using test::lettersOf;
 using testing::ElementsAre;
 
 constexpr ColorValue kRed = 0x0000FF;
@@ -30,30 +29,6 @@ TEST(RasterTest, RectanglesExcludeRightAndBottomAndClip) {
 
   Surface tiny(QSize(3, 2), 0xFFFFFF);
   EXPECT_THAT(lettersOf(tiny.image()), ElementsAre("www", "www"));
-}
-
-TEST(RasterTest, LinesStopBeforeTheirEnd) {
-  const struct {
-    const char* name;
-    QLine line;
-    std::vector<std::string> rows;
-  } table[] = {
-      {"right", {1, 1, 3, 1}, {".....", ".rr..", ".....", "....."}},
-      {"left", {3, 1, 1, 1}, {".....", "..rr.", ".....", "....."}},
-      {"down", {1, 0, 1, 2}, {".r...", ".r...", ".....", "....."}},
-      {"up", {1, 3, 1, 1}, {".....", ".....", ".r...", ".r..."}},
-      {"one pixel", {1, 1, 2, 2}, {".....", ".r...", ".....", "....."}},
-      {"nothing", {1, 1, 1, 1}, {".....", ".....", ".....", "....."}},
-      {"steep", {0, 0, 2, 4}, {"r....", "r....", ".r...", ".r..."}},
-      {"flat", {0, 0, 4, 3}, {"r....", ".rr..", "...r.", "....."}},
-      {"over the edges", {-3, 2, 9, 2}, {".....", ".....", "rrrrr", "....."}},
-      {"outside", {-1, 0, -1, 4}, {".....", ".....", ".....", "....."}},
-  };
-  for (const auto& row : table) {
-    Surface surface(QSize(5, 4));
-    DrawLine(surface, row.line.x1(), row.line.y1(), row.line.x2(), row.line.y2(), kRed);
-    EXPECT_EQ(lettersOf(surface.image()), row.rows) << row.name;
-  }
 }
 
 /// Three columns red, green, blue; two rows, the lower one with a hole in the middle.

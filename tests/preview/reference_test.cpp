@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "reference.h"
-
 #include "preview/modapigraphics.h"
 #include "preview/screens.h"
 #include "preview/surface.h"
@@ -10,11 +8,69 @@
 #include "theme/load.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QPainter>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace quillane {
 namespace {
+
+/// Where two pictures of one size differ.
+struct Difference {
+  int count = 0;
+  QRect box;
+  QPoint first;
+  QImage mask;
+};
+
+Difference differenceOf(const QImage& actual, const QImage& expected) {
+  Difference found{0, {}, {}, QImage(actual.size(), QImage::Format_RGB32)};
+  found.mask.fill(Qt::black);
+  for (int y = 0; y < actual.height(); ++y)
+    for (int x = 0; x < actual.width(); ++x) {
+      if (actual.pixel(x, y) == expected.pixel(x, y)) continue;
+      if (found.count++ == 0) found.first = QPoint(x, y);
+      found.box |= QRect(x, y, 1, 1);
+      found.mask.setPixel(x, y, qRgb(255, 255, 255));
+    }
+  return found;
+}
+
+void save(const QImage& image, const QString& path) {
+  QDir().mkpath(QFileInfo(path).path());
+  EXPECT_TRUE(image.save(path)) << path.toStdString();
+}
+
+/// Compares a picture with `reference/<name>` pixel by pixel. What differs is left in the build
+/// tree: the picture and a mask of the differing pixels; the message has the count, the bounding
+/// box and the first place.
+///
+/// With $QUILLANE_RENEW_REFERENCES set the reference is written anew instead.
+void expectReference(const QString& name, const QImage& picture) {
+  const QImage actual = picture.convertToFormat(QImage::Format_RGB32);
+  const QString path = QStringLiteral(REFERENCE_FOLDER "/") + name;
+  if (qEnvironmentVariableIsSet("QUILLANE_RENEW_REFERENCES")) {
+    save(actual, path);
+    return;
+  }
+
+  const QString leftovers = QStringLiteral(DIFFERENCE_FOLDER "/") + QString(name).chopped(4);
+  const QImage expected = QImage(path).convertToFormat(QImage::Format_RGB32);
+  if (expected.size() != actual.size()) {
+    save(actual, leftovers + QStringLiteral("-actual.png"));
+    ADD_FAILURE() << name.toStdString() << " is " << actual.width() << "x" << actual.height()
+                  << ", its reference " << expected.width() << "x" << expected.height();
+    return;
+  }
+  const Difference found = differenceOf(actual, expected);
+  if (found.count == 0) return;
+  save(actual, leftovers + QStringLiteral("-actual.png"));
+  save(found.mask, leftovers + QStringLiteral("-mask.png"));
+  ADD_FAILURE() << name.toStdString() << ": " << found.count << " pixels differ, within ("
+                << found.box.left() << "," << found.box.top() << ")-(" << found.box.right() << ","
+                << found.box.bottom() << "), first at (" << found.first.x() << ","
+                << found.first.y() << "); see " << leftovers.toStdString() << "-*.png";
+}
 
 /// Every face and size of the screens with all the characters of Latin-1 and the ampersand's uses.
 TEST(ReferenceTest, Typefaces) {
@@ -41,23 +97,25 @@ TEST(ReferenceTest, Typefaces) {
     DrawTextRect(sheet, text, 3, top, 92, 354, font);
     top += 94;
   }
-  test::expectReference(QStringLiteral("typefaces/sheet.png"), sheet.image());
+  expectReference(QStringLiteral("typefaces/sheet.png"), sheet.image());
 }
 
 /// All screens of a theme side by side, four in a row.
 template <class Engine>
-QImage contactSheet(std::span<const Screen<Engine>> screens, QSize size, const ThemeValues& theme) {
+QImage contactSheet(std::span<const Screen<Engine>> screens, QSize size, const ThemeValues& theme,
+                    bool images) {
   constexpr int kColumns = 4;
   const int rows = (static_cast<int>(screens.size()) + kColumns - 1) / kColumns;
   QImage sheet(kColumns * size.width(), rows * size.height(), QImage::Format_RGB32);
   sheet.fill(Qt::white);
   QPainter painter(&sheet);
 
-  test::StillWorld world;
+  StillWorld world;
   world.nextRandom = -1;
   Engine engine(world);
   engine.takeTheme(theme);
-  test::fillPhone(engine);
+  fillPhone(engine);
+  if constexpr (requires { engine.DrawImages; }) engine.DrawImages = images;
   int place = 0;
   for (const Screen<Engine>& screen : screens) {
     Surface surface(size);
@@ -70,6 +128,12 @@ QImage contactSheet(std::span<const Screen<Engine>> screens, QSize size, const T
   return sheet;
 }
 
+QImage contactSheet(const ThemeValues& theme, bool images = true) {
+  return theme.schema().generation == Generation::Two
+             ? contactSheet(screensOfGeneration2(), Surface::kSize2, theme, images)
+             : contactSheet(screensOf3G(), Surface::kSize3G, theme, images);
+}
+
 /// Each theme that we ship, as its source folder, and each picture folder has its case.
 TEST(ReferenceTest, Themes) {
   const auto foldersIn = [](const QString& path) {
@@ -77,18 +141,30 @@ TEST(ReferenceTest, Themes) {
   };
   const QDir themes(QStringLiteral(THEMES_FOLDER));
   QStringList cases{QStringLiteral("typefaces")};
+  const auto expectSheet = [&](const QString& name, const QImage& sheet) {
+    expectReference(name + QStringLiteral("/sheet.png"), sheet);
+    cases.append(name);
+  };
+  expectSheet(QStringLiteral("defaults 2"), contactSheet(ThemeValues(Generation::Two)));
+  expectSheet(QStringLiteral("defaults 3g"), contactSheet(ThemeValues(Generation::ThreeG)));
+
   for (const QString& name : foldersIn(themes.path())) {
     ImageStates states{};
-    const auto theme = loadTheme(themes.filePath(name), states, [&](const Fault& fault) {
+    auto theme = loadTheme(themes.filePath(name), states, [&](const Fault& fault) {
       ADD_FAILURE() << name.toStdString() << ": " << fault.what();
     });
     ASSERT_TRUE(theme) << name.toStdString();
     EXPECT_EQ(theme->warnings, QStringList()) << name.toStdString();
-    const QImage sheet = theme->values.schema().generation == Generation::Two
-                             ? contactSheet(screensOfGeneration2(), Surface::kSize2, theme->values)
-                             : contactSheet(screensOf3G(), Surface::kSize3G, theme->values);
-    test::expectReference(name + QStringLiteral("/sheet.png"), sheet);
-    cases.append(name);
+    ThemeValues& values = theme->values;
+    expectSheet(name, contactSheet(values));
+    if (values.schema().generation == Generation::Two) continue;
+
+    const QImage imagesOff = contactSheet(values, false);
+    if (name == QStringLiteral("Polar Night"))
+      expectSheet(QStringLiteral("Polar Night, images off"), imagesOff);
+    for (int slot = 0; slot < static_cast<int>(values.schema().images.size()); ++slot)
+      values.setImage(slot, QString());
+    EXPECT_EQ(contactSheet(values), imagesOff) << name.toStdString();
   }
   for (const QString& name : foldersIn(QStringLiteral(REFERENCE_FOLDER)))
     EXPECT_TRUE(cases.contains(name)) << name.toStdString() << " is a reference of nothing";

@@ -13,7 +13,6 @@
 namespace quillane {
 namespace {
 
-using test::lettersOf;
 using Rows = std::vector<std::string>;
 
 FontSpec tahomaBold(int alignment = AlignLeft) {
@@ -27,90 +26,14 @@ Rows painted(const QString& text, const FontSpec& font, QSize size) {
   return lettersOf(surface.image());
 }
 
-TEST(TextTest, GlyphsOfTheStrikes) {
-  const FontSpec sansBold{QStringLiteral("MS Sans Serif"), AlignLeft, true, 8, 0};
-  const FontSpec sans{QStringLiteral("MS Sans Serif"), AlignLeft, false, 8, 0};
-  const FontSpec small{QStringLiteral("Tahoma"), AlignLeft, false, 7, 0};
-  const FontSpec tiny{QStringLiteral("Small Fonts"), AlignLeft, false, 5, 0};
-  const struct {
-    const char* name;
-    const char* text;
-    FontSpec font;
-    Rows rows;
-  } table[] = {
-      {"Tahoma bold 8",
-       "Ag",
-       tahomaBold(),
-       {"...............", "...............", "...............", "..###..........",
-        "..###..........", ".##.##...#####.", ".##.##..##..##.", ".##.##..##..##.",
-        "#######.##..##.", "##...##.##..##.", "##...##..#####.", "............##.",
-        ".........####..", "..............."}},
-      {"MS Sans Serif bold 8 is painted twice",
-       "Ag",
-       sansBold,
-       {"...............", "...............", "...##..........", "...##..........",
-        "..####.........", "..####....####.", ".##..##..##..##", ".######..##..##",
-        "##....##.##..##", "##....##.##..##", "##....##..#####", ".............##",
-        "..........####.", "..............."}},
-      {"MS Sans Serif 8",
-       "Ag",
-       sans,
-       {"...............", "...............", "...#...........", "...#...........",
-        "..#.#..........", "..#.#....###...", ".#...#..#...#..", ".#####..#...#..",
-        "#.....#.#...#..", "#.....#.#...#..", "#.....#..####..", "............#..",
-        ".........###...", "..............."}},
-      {"Tahoma 7",
-       "Ag",
-       small,
-       {"...............", "...............", "..##...........", "..##...........",
-        ".#..#...###....", ".#..#..#..#....", ".####..#..#....", "#....#.#..#....",
-        "#....#..###....", "..........#....", "........##.....", "...............",
-        "...............", "..............."}},
-      {"a face without a strike is drawn from its outline",
-       "OO",
-       tiny,
-       {"...............", "...............", "..###..###.....", ".#...##...#....",
-        ".#...##...#....", ".#...##...#....", "..###..###.....", "...............",
-        "...............", "...............", "...............", "...............",
-        "...............", "..............."}},
-  };
-  for (const auto& row : table)
-    EXPECT_EQ(painted(QString::fromUtf8(row.text), row.font, QSize(15, 14)), row.rows) << row.name;
-}
-
-TEST(TextTest, CellsAndAdvances) {
-  const struct {
-    const char* name;
-    int points;
-    bool bold;
-    int cell, ascent;
-    int blank, capitalW, bar;  // Advances.
-  } table[] = {
-      {"Tahoma", 7, false, 11, 9, 3, 8, 4},          {"Tahoma", 8, false, 13, 11, 3, 10, 4},
-      {"Tahoma", 8, true, 13, 11, 3, 11, 5},         {"Tahoma", 9, true, 14, 12, 4, 13, 6},
-      {"MS Sans Serif", 8, false, 13, 11, 3, 11, 2}, {"MS Sans Serif", 8, true, 13, 11, 4, 12, 3},
-      {"Small Fonts", 5, false, 8, 7, 2, 6, 3},
-  };
-  for (const auto& row : table) {
-    SizedFace& face = Faces::shared().face(QString::fromUtf8(row.name), row.points, row.bold);
-    EXPECT_EQ(face.cellHeight(), row.cell) << row.name << row.points;
-    EXPECT_EQ(face.ascent(), row.ascent) << row.name << row.points;
-    EXPECT_EQ(face.glyph(U' ').advance, row.blank) << row.name << row.points;
-    EXPECT_EQ(face.glyph(U'W').advance, row.capitalW) << row.name << row.points;
-    EXPECT_EQ(face.glyph(U'|').advance, row.bar) << row.name << row.points;
-  }
-}
-
 TEST(TextTest, TheSurfaceMeasuresInItsOwnFont) {
   Surface surface(QSize(1, 1));
-  EXPECT_EQ(surface.TextWidth(QStringLiteral("W |")), 11 + 3 + 2);
   for (const auto& [points, height] : {std::pair{7, 13}, {8, 13}, {9, 16}}) {
     surface.setFontSize(points);
     EXPECT_EQ(surface.TextHeight(QStringLiteral("|")), height);
     EXPECT_EQ(surface.TextHeight(QString()), height);
     EXPECT_EQ(surface.TextHeight(QStringLiteral("a\r\nb\n")), 3 * height);
   }
-  EXPECT_EQ(surface.TextWidth(QStringLiteral("i\nW")), 13);
 }
 
 TEST(TextTest, AmpersandsAndLineEnds) {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace quillane::test {
+namespace quillane {
 
 /// A part of a picture as a square of letters: "." for the surface's own back colour, "#" black,
 /// "w" white, "r", "g", "b" the pure colours and "?" any other.
@@ -47,4 +47,4 @@ inline std::vector<std::string> lettersOf(const QImage& image) {
   return lettersOf(image, image.rect());
 }
 
-}  // namespace quillane::test
+}  // namespace quillane
