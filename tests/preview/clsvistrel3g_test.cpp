@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/clsvistrel3g.h"
 
-#include "probes.h"
+#include "preview/clsvistrel.h"
+#include "support/probes.h"
 #include "support/samplephone.h"
-#include "support/stillworld.h"
-#include "support/temp_folder.h"
 #include "support/text.h"
 
 #include <functional>
+#include <string_view>
 
 namespace quillane {
 namespace {
@@ -16,35 +16,43 @@ namespace {
 constexpr QRgb kMargin = 0xFFD4D0C8;
 constexpr QRgb kGround = 0xFFC0DFFF;
 constexpr QRgb kDesktopGround = 0xFFBFD3E8;
-constexpr QRgb kKey = 0xFFBDBDBD;
 constexpr QRgb kImage = 0xFF00AA00;
 
-class Vistrel3GTest : public TempFolder {
+class Vistrel3GTest : public EngineTest<clsVistrel3G> {
  protected:
-  Vistrel3GTest() {
-    engine.setSurface(surface);
-    fillPhone(engine);
-  }
+  Vistrel3GTest() : EngineTest(Surface::kSize3G) { fillPhone(engine); }
 
-  QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
   QString file(QSize size) const {
     QImage image(size, QImage::Format_RGB32);
     image.fill(kImage);
-    QString name = path(QStringLiteral("image.bmp"));
-    EXPECT_TRUE(image.save(name));
-    return name;
+    return save(image);
   }
-
-  StillWorld world;
-  clsVistrel3G engine{world};
-  Surface surface{Surface::kSize3G};
 };
 
-TEST_F(Vistrel3GTest, AnEmptyColourStaysAndImagesAreOffAtFirst) {
-  clsVistrel3G fresh(world);
-  EXPECT_FALSE(fresh.DrawImages);
-  fresh.setColor(gen3g::TextColor, QString());
-  EXPECT_EQ(fresh.color(gen3g::TextColor), QString());
+TEST(BoundedTest, ANumberOutOfItsRangeBecomesAFixedOne) {
+  StillWorld world;
+  clsVistrel two(world);
+  clsVistrel3G three(world);
+  const auto check = [](const char* name, auto property, int low, int high, int otherwise) {
+    EXPECT_EQ(property, 0) << name << ", never set";
+    EXPECT_EQ(property = low, low) << name;
+    EXPECT_EQ(property = high, high) << name;
+    EXPECT_EQ(property = low - 1, otherwise) << name;
+    EXPECT_EQ(property = low, low) << name;
+    EXPECT_EQ(property = high + 1, otherwise) << name;
+  };
+  check("signal", two.SignalStrength, 0, 5, 5);
+  check("battery", two.BatteryLevel, 0, 10, 10);
+  check("GPRS", two.GPRSRange, 0, 1, 1);
+  check("line", two.LineIcon, 1, 2, 1);
+  check("desktop", two.DesktopIcon, 0, 9, 5);
+  check("3G signal", three.SignalStrength, 0, 5, 5);
+  check("3G battery", three.BatteryLevel, 0, 10, 10);
+  check("3G GPRS", three.GPRSRange, 0, 1, 1);
+  check("3G desktop", three.DesktopIcon, 1, 12, 5);
+  EXPECT_FALSE(three.DrawImages);
+  two.CalendarDateFormat = QString();
+  EXPECT_EQ(static_cast<const QString&>(two.CalendarDateFormat), QStringLiteral("mmm yyyy"));
 }
 
 TEST_F(Vistrel3GTest, ImagesAreCutToTheirZones) {
@@ -88,10 +96,10 @@ TEST_F(Vistrel3GTest, StatusIconsAndTheSymbolBetweenTheKeys) {
     std::vector<PlacedIcon> icons;
     if (signal > 1) icons.push_back({2300 + signal % 2, {6, 6}});
     icons.insert(icons.end(), {{2200 + signal, {6, 10}}, {2100 + 2 * signal, {114, 7}}});
-    EXPECT_EQ(surface.image().copy(bar), iconsOn(kGround, icons).copy(bar)) << signal;
+    EXPECT_EQ(part(bar), iconsOn(kGround, icons).copy(bar)) << signal;
   }
   const QRect gap(60, 146, 20, 19);
-  EXPECT_EQ(surface.image().copy(gap), iconsOn(kGround, {{2400, {64, 151}}}).copy(gap));
+  EXPECT_EQ(part(gap), iconsOn(kGround, {{2400, {64, 151}}}).copy(gap));
 }
 
 TEST_F(Vistrel3GTest, DesktopCells) {
@@ -101,7 +109,7 @@ TEST_F(Vistrel3GTest, DesktopCells) {
     engine.DesktopIcon = icon;
     engine.DrawDesktop();
     const QPoint cell(6 + (icon - 1) % 3 * 42, 41 + (icon - 1) / 3 * 26);
-    EXPECT_EQ(surface.image().copy(zone),
+    EXPECT_EQ(part(zone),
               iconsOn(kDesktopGround, {{2000, {5, 19}}, {2000 + icon, cell}}).copy(zone))
         << icon;
   }
@@ -134,26 +142,23 @@ TEST_F(Vistrel3GTest, SoftkeyBoxesAndRightLabels) {
     engine.DesktopSoftkeyText = labels.isEmpty() ? QStringLiteral(" ") : labels;
     row.draw();
     const QImage& image = surface.image();
-    const QRgb rightKey = row.shadow.isNull() && row.right.isValid() ? 0xFF00FFFF : 0xFF0000FF;
-    EXPECT_EQ(boundsOf(image.copy(0, 0, 69, 171), 0xFF0000FF), row.left) << row.name;
-    const QRect right = boundsOf(image.copy(69, 0, 69, 171), rightKey);
-    EXPECT_EQ(right.isNull() ? right : right.translated(69, 0), row.right) << row.name;
+    const bool isPressed = row.name == std::string_view("pressed");
+    EXPECT_EQ(boundsOf(image, 0xFF0000FF, {0, 0, 69, 171}), row.left) << row.name;
+    EXPECT_EQ(boundsOf(image, isPressed ? 0xFF00FFFF : 0xFF0000FF, {69, 0, 69, 171}), row.right)
+        << row.name;
     EXPECT_EQ(boundsOf(image, 0xFFFF0000), row.label) << row.name;
     EXPECT_EQ(boundsOf(image, 0xFF00FF00), row.shadow) << row.name;
   }
 }
 
 TEST_F(Vistrel3GTest, EveryRowRollsTheDiceAnew) {
-  world.nextRandom = 0.49;
-  engine.DrawSoftkeys(0);
-  EXPECT_EQ(world.reseeded, 5);
-  const QImage empty = surface.image().copy();
-  world.nextRandom = 0.5;
-  engine.DrawSoftkeys(0);
-  for (int row = 0; row < 6; ++row) {
-    const QRect box(10, 47 + 16 * row, 10, 10);
-    EXPECT_EQ(surface.image().copy(box) == empty.copy(box), row == 0) << row;
+  for (const double random : {0.49, 0.5}) {
+    world.nextRandom = random;
+    engine.DrawSoftkeys(0);
+    const std::vector<PlacedIcon> box{{random < 0.5 ? 2500 : 2501, {10, 127}}};
+    EXPECT_EQ(part({10, 127, 10, 10}), iconsOn(kGround, box).copy(10, 127, 10, 10)) << random;
   }
+  EXPECT_EQ(world.reseeded, 2 * 5);
 }
 
 TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
@@ -161,9 +166,9 @@ TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
   const auto softkeys = [&](int i) { return faultNumberOf([&] { engine.DrawSoftkeys(i); }); };
   engine.StandbySoftkeyText = QStringLiteral("Calls");
   EXPECT_EQ(fault(&clsVistrel3G::DrawStandby), 9);
-  EXPECT_EQ(pixel(80, 148), kKey) << "the right box is there";
+  EXPECT_EQ(pixel(80, 148), 0xFFBDBDBD) << "the right box is there";
   const QRect gap(60, 151, 20, 11);
-  EXPECT_EQ(surface.image().copy(gap), iconsOn(kGround, {}).copy(gap)) << "the symbol is not";
+  EXPECT_EQ(part(gap), iconsOn(kGround, {}).copy(gap)) << "the symbol is not";
 
   engine.DesktopTitles = QStringLiteral("1|2|3|4");
   EXPECT_EQ(fault(&clsVistrel3G::DrawDesktop), 9);
