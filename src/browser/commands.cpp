@@ -19,11 +19,13 @@ struct ToolPicture {
   int picture;
 };
 
+constexpr int kDropDownPicture = 131;
+
 constexpr ToolPicture kToolPictures[] = {
-    {"btnBrowse", 104},     {"btnDropDown", 131}, {"btnHome", 105},          {"btnPrev", 113},
-    {"btnNext", 114},       {"btnRefresh", 111},  {"btnNew", 115},           {"btnEdit", 118},
-    {"btnProperties", 120}, {"btnExport", 121},   {"btnClipboardCopy", 112}, {"btnCopy", 122},
-    {"btnMove", 123},       {"btnDelete", 124},   {"btnViewXML", 125},       {"btnIRSend", 127},
+    {"btnBrowse", 104},  {"btnHome", 105},          {"btnPrev", 113},   {"btnNext", 114},
+    {"btnRefresh", 111}, {"btnNew", 115},           {"btnEdit", 118},   {"btnProperties", 120},
+    {"btnExport", 121},  {"btnClipboardCopy", 112}, {"btnCopy", 122},   {"btnMove", 123},
+    {"btnDelete", 124},  {"btnViewXML", 125},       {"btnIRSend", 127},
 };
 
 /// When a menu item is enabled, by what is selected; with nothing selected none is.
@@ -65,6 +67,8 @@ bool isOn(const MenuRule& rule, int selectedCount, bool themeFailed) {
 void dressButtons(QWidget& browser) {
   for (const ToolPicture& row : kToolPictures)
     browser.findChild<QToolButton*>(QLatin1String(row.button))->setIcon(formIcon(row.picture));
+  browser.findChild<QToolButton*>(QStringLiteral("btnDropDown"))
+      ->setIcon(tightFormIcon(kDropDownPicture));
 }
 
 bool isCommandThere(const QString& control) {

@@ -6,7 +6,7 @@
 #include "forms/bevel.h"
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
-#include "forms/formicons.h"
+#include "forms/formfonts.h"
 #include "shell/files.h"
 #include "shell/settings.h"
 #include "shell/state.h"
@@ -86,6 +86,9 @@ void frmBrowser::Form_Load(const QString& commandLine) {
   showCaption();
   showThemeCount();
   ui_->lblSize->clear();
+  for (QLabel* label : {ui_->lblNoThemes, ui_->lblSize})
+    label->setFont(fontOfHeight(label->font(), label->height()));
+  ui_->txtXML->viewport()->setBackgroundRole(QPalette::Button);
   updateMenus();
   ui_->filFiles->setFocus();
   if (!path.isEmpty()) selectFromCommandLine(commandLine, path);
@@ -97,7 +100,7 @@ void frmBrowser::Form_Load(const QString& commandLine) {
 // opens its folder and selects nothing.
 void frmBrowser::selectFromCommandLine(const QString& commandLine, const QString& path) {
   if (!FileExists(path)) {
-    dialogs_.message(this, MessageIcon::Warning, QString(),
+    dialogs_.message(nullptr, MessageIcon::Warning, QString(),
                      QStringLiteral("Theme %1 could not been found.").arg(commandLine));
     return;
   }
@@ -105,7 +108,7 @@ void frmBrowser::selectFromCommandLine(const QString& commandLine, const QString
   const QString wanted = isQuoted(commandLine) ? name : name.toLower();
   for (int index = 0; index < ui_->filFiles->listCount(); ++index) {
     if (ui_->filFiles->item(index).toLower() != wanted) continue;
-    ui_->filFiles->setSelected(index, true);
+    ui_->filFiles->selectOnly(index);
     return;
   }
 }

@@ -96,6 +96,7 @@ class frmBrowser : public QMainWindow {
   template <class Engine>
   void drawScreens(Engine& preview, Engine& editor, std::span<const Screen<Engine>> screens,
                    const FaultReporter& report);
+  void showXml(const QString& xml);
   void btnViewXML_Click();
   void mnuViewItem_SourceXml();
   void btnClipboardCopy_Click();
@@ -117,6 +118,7 @@ class frmBrowser : public QMainWindow {
   enum class Severity { Error, Warning } TipSeverity = Severity::Error;
   bool InListUpdate = false;
   std::unique_ptr<cTooltips> Tips;
+  QString xml_;  ///< Of the XML view, which takes it when it is open.
   bool unloaded_ = false;
 
   QMenu* mnuPopup_;   ///< Of generation 2's panes.

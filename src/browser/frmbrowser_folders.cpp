@@ -28,7 +28,7 @@ void frmBrowser::btnNext_Click() {
 
 void frmBrowser::stepTo(int index) {
   ui_->filFiles->setSelected(state_.SelectedIndex, false);
-  ui_->filFiles->setSelected(index, true);
+  ui_->filFiles->selectOnly(index);
 }
 
 void frmBrowser::btnBrowse_Click() {
@@ -91,7 +91,10 @@ void frmBrowser::refreshList() {
 }
 
 void frmBrowser::showCaption() {
-  setWindowTitle(QStringLiteral("Quillane - Theme Browser -  [%1]").arg(state_.BrowseFolder));
+  QString folder = state_.BrowseFolder;
+  // The toolkit takes a single one for its mark of an unsaved document.
+  folder.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+  setWindowTitle(QStringLiteral("Quillane - Theme Browser -  [%1]").arg(folder));
 }
 
 void frmBrowser::showThemeCount() {

@@ -31,30 +31,37 @@ constexpr int kHighestDesktopIcon = 9;
 
 }  // namespace
 
-/// Shows the faults of one load, each text once: an image that cannot be read fails on every
-/// screen.
+/// The faults of one load, each text once: an image that cannot be read fails on every screen. They
+/// are shown when the theme is, not over the one before.
 class frmBrowser::LoadFaults {
  public:
   explicit LoadFaults(frmBrowser& browser) : browser_(browser) {}
 
-  FaultReporter reporter(const QString& tag) {
-    return [this, tag](const Fault& fault) {
-      if (shown_.contains(fault.description())) return;
-      shown_.insert(fault.description());
-      showFault(browser_.dialogs_, &browser_, fault, tag);
+  FaultReporter reporter() {
+    return [this](const Fault& fault) {
+      if (known_.contains(fault.description())) return;
+      known_.insert(fault.description());
+      waiting_.append(fault);
     };
+  }
+
+  void show(const QString& tag) {
+    for (const Fault& fault : waiting_)
+      showFault(browser_.dialogs_, &browser_, fault, tag);
+    waiting_.clear();
   }
 
  private:
   frmBrowser& browser_;
-  QSet<QString> shown_;
+  QSet<QString> known_;
+  QList<Fault> waiting_;
 };
 
 void frmBrowser::LoadTheme() {
   const cHourglass wait;
   LoadFaults faults(*this);
   const std::optional<LoadedTheme> theme =
-      loadTheme(state_.AppTempFolder, state_.ImageState, faults.reporter(kParseTag));
+      loadTheme(state_.AppTempFolder, state_.ImageState, faults.reporter());
   if (!theme) {
     TipText = QStringLiteral("This theme does not contain an XML file.");
     TipTitle = QStringLiteral("Error in theme file \"%1\"")
@@ -65,20 +72,21 @@ void frmBrowser::LoadTheme() {
   }
   state_.ThemeXmlPath = theme->xmlPath;
   state_.ThemeXml = theme->xml;
-  ui_->txtXML->setPlainText(theme->xml);
+  showXml(theme->xml);
   state_.ThemeGeneration = theme->values.schema().generation;
   const bool is3G = state_.ThemeGeneration == Generation::ThreeG;
   ui_->picPreview_0->setVisible(!is3G);
   ui_->picPreview_1->setVisible(is3G);
+  faults.show(kParseTag);
   if (is3G) {
     state_.PreviewEngine3G->takeTheme(theme->values);
-    drawScreens(*state_.PreviewEngine3G, *state_.EditorEngine3G, screensOf3G(),
-                faults.reporter(kDrawTag));
+    drawScreens(*state_.PreviewEngine3G, *state_.EditorEngine3G, screensOf3G(), faults.reporter());
   } else {
     state_.PreviewEngine2->takeTheme(theme->values);
     drawScreens(*state_.PreviewEngine2, *state_.EditorEngine2, screensOfGeneration2(),
-                faults.reporter(kDrawTag));
+                faults.reporter());
   }
+  faults.show(kDrawTag);
   if (theme->warnings.isEmpty()) return;
   TipTitle =
       QStringLiteral("Errors in theme \"%1\"").arg(ui_->filFiles->item(state_.SelectedIndex));
@@ -108,8 +116,16 @@ void frmBrowser::drawScreens(Engine& preview, Engine& editor,
   }
 }
 
+// Laying out a long text takes longer than all the rest of a load, so a closed view goes without.
+void frmBrowser::showXml(const QString& xml) {
+  xml_ = xml;
+  if (ui_->btnViewXML->isChecked()) ui_->txtXML->setPlainText(xml_);
+}
+
 void frmBrowser::btnViewXML_Click() {
   const bool on = ui_->btnViewXML->isChecked();
+  if (!on && ui_->txtXML->hasFocus()) ui_->filFiles->setFocus();
+  showXml(xml_);
   ui_->txtXML->setVisible(on);
   if (on) ui_->txtXML->raise();
   ui_->mnuViewItem_1->setChecked(on);

@@ -131,6 +131,7 @@ void frmBrowser::mnuEditItem_SelectAll() {
   ui_->filFiles->selectEvery();
   InListUpdate = false;
   SelectedCount = ui_->filFiles->listCount();
+  ThemeFailed = false;
   showSelectedCounts();
   clearTip();
   enableCopying(true);
@@ -158,7 +159,7 @@ void frmBrowser::mnuEditItem_Invert() {
 void frmBrowser::ClearPreview() {
   for (const char* pane : kClearedPanes)
     findChild<PictureBox*>(QLatin1String(pane))->Cls();
-  ui_->txtXML->clear();
+  showXml({});
   enableNavigation(false, false);
   for (QWidget* button : std::initializer_list<QWidget*>{ui_->btnEdit, ui_->btnExport,
                                                          ui_->btnClipboardCopy, ui_->btnProperties})

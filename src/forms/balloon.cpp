@@ -11,6 +11,7 @@
 #include <QPainterPath>
 #include <QPolygonF>
 #include <QRegion>
+#include <QRegularExpression>
 #include <QScreen>
 
 namespace quillane {
@@ -23,11 +24,17 @@ constexpr int kRadius = 6;
 constexpr int kTipFromEdge = 24;
 constexpr int kWidestText = 360;
 
+/// Cuts the middle out of words that no line can hold, such as some names of files.
+QString withShortWords(QString text) {
+  static const QRegularExpression longWord(QStringLiteral("(\\S{30})\\S{8,}(\\S{10})"));
+  return text.replace(longWord, QStringLiteral("\\1\u2026\\2"));
+}
+
 /// Shows a text on lines as long as they are, and breaks those that are too long.
 void showText(QLabel& label, const QString& text) {
   label.setWordWrap(false);
   label.setMinimumWidth(0);
-  label.setText(widgetText(text));
+  label.setText(withShortWords(widgetText(text)));
   if (label.sizeHint().width() <= kWidestText) return;
   label.setWordWrap(true);
   label.setMinimumWidth(kWidestText);

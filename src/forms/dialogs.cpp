@@ -22,10 +22,21 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
   return QMessageBox::Information;
 }
 
+constexpr qsizetype kLongestText = 20000;
+constexpr qsizetype kLongestLine = 1000;
+constexpr qsizetype kMostLines = 20;
+const QChar kCut(0x2026);
+
 }  // namespace
 
-QString widgetText(QString text) {
-  return text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+QString widgetText(const QString& text) {
+  QStringList lines = text.left(kLongestText)
+                          .replace(QLatin1String("\r\n"), QLatin1String("\n"))
+                          .split(QLatin1Char('\n'));
+  for (QString& line : lines)
+    if (line.size() > kLongestLine) line = line.left(kLongestLine) + kCut;
+  if (lines.size() > kMostLines) lines = lines.mid(0, kMostLines) << kCut;
+  return lines.join(QLatin1Char('\n'));
 }
 
 void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& title,

@@ -26,8 +26,9 @@ class Dialogs {
   virtual void beep() = 0;
 };
 
-/// A text of the program with the line ends that widgets understand.
-QString widgetText(QString text);
+/// A text of the program for a widget: with line ends that widgets understand, and cut to what a
+/// person can read, since parts of it may come from a stranger's file.
+QString widgetText(const QString& text);
 
 /// The dialogs of the desktop.
 class DesktopDialogs : public Dialogs {

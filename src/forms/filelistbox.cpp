@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/filelistbox.h"
 
+#include "forms/formfonts.h"
 #include "shell/listing.h"
 #include "theme/fault.h"
 
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QStringListModel>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -22,6 +26,15 @@ class RowDelegate : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     return {QStyledItemDelegate::sizeHint(option, index).width(), FileListBox::kRowHeight};
   }
+
+  /// A name that the row cannot hold shows in full beside the pointer.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const QString name = index.data().toString();
+    const bool fits = sizeHint(option, index).width() <= view->visualRect(index).width();
+    QToolTip::showText(event->globalPos(), fits ? QString() : name.toHtmlEscaped(), view);
+    return true;
+  }
 };
 
 }  // namespace
@@ -29,6 +42,7 @@ class RowDelegate : public QStyledItemDelegate {
 FileListBox::FileListBox(QWidget* parent) : QListView(parent), model_(new QStringListModel(this)) {
   setModel(model_);
   setItemDelegate(new RowDelegate(this));
+  setFont(fontOfHeight(font(), kRowHeight));
   setUniformItemSizes(true);
   setSelectionMode(ExtendedSelection);
   setEditTriggers(NoEditTriggers);
@@ -68,6 +82,10 @@ void FileListBox::setSelected(int index, bool on) {
   selectionModel()->select(item, on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
 }
 
+void FileListBox::selectOnly(int index) {
+  setCurrentIndex(model_->index(index));
+}
+
 void FileListBox::selectEvery() {
   selectAll();
 }
@@ -75,6 +93,15 @@ void FileListBox::selectEvery() {
 void FileListBox::invertSelection() {
   const QItemSelection every(model_->index(0), model_->index(listCount() - 1));
   selectionModel()->select(every, QItemSelectionModel::Toggle);
+}
+
+// The list has a current item before anything is selected; the first step goes there, not past it.
+void FileListBox::keyPressEvent(QKeyEvent* event) {
+  const bool isStep = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  if (isStep && selectionModel()->selection().isEmpty())
+    selectOnly(qMax(0, currentIndex().row()));
+  else
+    QListView::keyPressEvent(event);
 }
 
 void FileListBox::selectionChanged(const QItemSelection& selected,

@@ -36,6 +36,8 @@ class FileListBox : public QListView {
   QList<int> selectedItems() const;
   /// Selects or deselects one item and leaves the others as they are.
   void setSelected(int index, bool on);
+  /// Selects one item alone, as a click on it does, so that ranges are then drawn from it.
+  void selectOnly(int index);
   void selectEvery();
   void invertSelection();
 
@@ -46,6 +48,7 @@ class FileListBox : public QListView {
   void PathChange();
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
  private:

@@ -5,6 +5,9 @@
 #include "preview/picture.h"
 #include "theme/fault.h"
 
+#include <QBitmap>
+#include <QRegion>
+
 // Outside the namespace, as the resources of a static library ask for.
 static void loadProgramIcons() {
   Q_INIT_RESOURCE(programicons);
@@ -20,6 +23,11 @@ QPixmap formPixmap(int id) {
 
 QIcon formIcon(int id) {
   return QIcon(formPixmap(id));
+}
+
+QIcon tightFormIcon(int id) {
+  const QPixmap pixmap = formPixmap(id);
+  return QIcon(pixmap.copy(QRegion(pixmap.mask()).boundingRect()));
 }
 
 QIcon programIcon() {

@@ -13,6 +13,9 @@ QPixmap formPixmap(int id);
 /// The numbered icon for a button, with a paler picture while the button is disabled.
 QIcon formIcon(int id);
 
+/// The same without its transparent margin, for a button that is narrower than the picture.
+QIcon tightFormIcon(int id);
+
 /// The icon of the program, in all its sizes.
 QIcon programIcon();
 

@@ -38,8 +38,10 @@ QStringList listFiles(const QString& folder, const QString& ending) {
   if (error) refuse(folder, error);
   for (const fs::directory_iterator end; entry != end; entry.increment(error)) {
     if (error) refuse(folder, error);
-    const QString name = QFile::decodeName(entry->path().filename().c_str());
-    if (isListed(*entry, name, ending)) found.emplace_back(name.toCaseFolded(), name);
+    const QByteArray bytes(entry->path().filename().c_str());
+    const QString name = QFile::decodeName(bytes);
+    if (QFile::encodeName(name) == bytes && isListed(*entry, name, ending))
+      found.emplace_back(name.toCaseFolded(), name);
   }
   std::sort(found.begin(), found.end());
   QStringList names;

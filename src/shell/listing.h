@@ -8,8 +8,9 @@
 namespace quillane {
 
 /// Bare names of the files in a folder whose names end in `ending`, letter case aside, in name
-/// order, letter case aside again. Hidden files and folders are left out. Throws `Fault` when the
-/// folder cannot be read.
+/// order, letter case aside again. Hidden files, folders, and names that are not text in the
+/// encoding of file names (Qt cannot open such files) are left out. Throws `Fault` when the folder
+/// cannot be read.
 QStringList listFiles(const QString& folder, const QString& ending);
 
 }  // namespace quillane

@@ -103,7 +103,7 @@ void IniSettings::write(const Setting& setting, const QString& value) {
 
 void IniSettings::flush() {
   settings_->sync();
-  if (settings_->status() == QSettings::NoError) return;
+  if (settings_->status() != QSettings::AccessError) return;
   throw Fault(
       FaultNumber::NoPermission,
       QStringLiteral("The settings file \"%1\" cannot be written, so the folders in use are "

@@ -8,6 +8,8 @@
 
 namespace quillane {
 
+class ThemeValues;
+
 /// A regular member of a theme archive as the reader takes it: bare name and size in bytes.
 struct ArchiveMember {
   QString name;
@@ -36,6 +38,11 @@ QString archiveErrorText(int code, const QString& fileName);
 /// file names in lower case with their files' times, in the order given. Throws `Fault`; the old
 /// archive is then untouched.
 void packArchive(const QString& themePath, const QStringList& files);
+
+/// The images that a saved theme packs: those of the filled slots in their order. Generation 2
+/// leaves out a desktop image that is the background's too and an Asian title that is the large
+/// one's, letter case aside; 3G lists a file once for each slot.
+QStringList themeImages(const ThemeValues& values);
 
 /// How the last line of an `index.txt` ends: bare in a saved theme, with CR LF from the TAR wizard.
 enum class IndexEnd { Bare, LineEnd };

@@ -103,6 +103,9 @@ class Walk {
       if (outcome == ARCHIVE_EOF) return Success;
       if (outcome == ARCHIVE_RETRY) return BadChecksum;
       if (outcome < ARCHIVE_WARN) return fatalCode();
+      // A chain of extension headers that the library gives up on comes as a warning without a
+      // name.
+      if (outcome == ARCHIVE_WARN && !archive_entry_pathname(entry)) return Damaged;
       if (const int code = walkMember(entry); code != Success) return code;
     }
   }

@@ -39,7 +39,7 @@ Fault unwritable(const QString& path, qint64 size) {
   if (!info.isWritable() || (file.exists() && !file.isWritable()))
     return fileFault(FaultNumber::NoPermission, u"No permission to write \"%1\"."_s, path);
   const QStorageInfo storage(folder);
-  if (storage.isValid() && storage.bytesAvailable() < size)
+  if (storage.isValid() && storage.bytesTotal() > 0 && storage.bytesAvailable() < size)
     return fileFault(FaultNumber::DiskFull, u"No room left to write \"%1\"."_s, path);
   return fileFault(FaultNumber::DeviceFault, u"File \"%1\" could not be written."_s, path);
 }
@@ -56,6 +56,9 @@ QByteArray readFile(const QString& path) {
 }
 
 void saveFile(const QString& path, const QByteArray& bytes) {
+  // A rename would put a file in the place of a device or a pipe.
+  if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+    throw fileFault(FaultNumber::NoPermission, u"\"%1\" is no file that can be replaced."_s, path);
   QSaveFile file(path);
   // The commit alone does not notice that the last buffer could not be written.
   const bool saved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&

@@ -4,6 +4,7 @@
 #include "theme/codepage.h"
 #include "theme/fault.h"
 #include "theme/files.h"
+#include "theme/values.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -89,6 +90,15 @@ QString indexEntry(const QString& file) {
   return u"%1 <%2>"_s.arg(nameInTheme(file), QString::number(fileSize(file)));
 }
 
+/// Whether an image of generation 2 is the one of the slot that it usually shares a picture with.
+bool repeatsItsPartner(const ThemeValues& values, int slot) {
+  if (values.schema().generation != Generation::Two) return false;
+  const int partner = slot == gen2::DesktopBackgroundImage ? gen2::BackgroundImage
+                      : slot == gen2::TitleImageAsian      ? gen2::TitleImageLarge
+                                                           : -1;
+  return partner >= 0 && values.image(slot).toLower() == values.image(partner).toLower();
+}
+
 }  // namespace
 
 void packArchive(const QString& themePath, const QStringList& files) {
@@ -97,6 +107,16 @@ void packArchive(const QString& themePath, const QStringList& files) {
     tar += packedMember(file);
   tar.append(kEndBlocks, '\0');
   saveFile(themePath, tar);
+}
+
+QStringList themeImages(const ThemeValues& values) {
+  const ThemeSchema& schema = values.schema();
+  QStringList images;
+  for (int slot = 0; slot < static_cast<int>(schema.images.size()); ++slot) {
+    const QString& image = values.image(slot);
+    if (!image.isEmpty() && !repeatsItsPartner(values, slot)) images.append(image);
+  }
+  return images;
 }
 
 QByteArray themeIndex(const QStringList& files, IndexEnd end) {

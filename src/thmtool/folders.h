@@ -5,13 +5,14 @@
 #include "theme/fault.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 namespace quillane {
 
 /// Makes a folder that is to be written to where it is missing. Throws `Fault`.
 inline void makeOutputFolder(const QString& folder) {
-  if (QDir().mkpath(folder)) return;
+  if (!folder.isEmpty() && QDir().mkpath(folder)) return;
   throw Fault(FaultNumber::NoPermission,
               QStringLiteral("The folder \"%1\" cannot be made; choose one where you may write.")
                   .arg(folder));
@@ -19,8 +20,10 @@ inline void makeOutputFolder(const QString& folder) {
 
 /// Makes a temporary folder that ends with the object. Throws `Fault`.
 inline QTemporaryDir makeWorkFolder() {
-  QTemporaryDir folder;
-  if (folder.isValid()) return folder;
+  // Without a temporary folder the toolkit would make one in the root of the file system.
+  const bool hasPlace = QFileInfo(QDir::tempPath()).isDir();
+  QTemporaryDir folder(hasPlace ? QDir::tempPath() + QLatin1String("/thmtool-XXXXXX") : QString());
+  if (hasPlace && folder.isValid()) return folder;
   throw Fault(FaultNumber::NoPermission,
               QStringLiteral("No temporary folder can be made in \"%1\": %2")
                   .arg(QDir::tempPath(), folder.errorString()));

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "thmtool/renderoptions.h"
 
-#include "shell/files.h"
+#include "theme/files.h"
 #include "thmtool/wholenumber.h"
 
 #include <QCommandLineParser>
@@ -66,7 +66,7 @@ constexpr BorderName kBorders[] = {
 /// A number text that the settings can hold; the engines settle what is out of their range.
 QString settingNumber(const QString& text, QLatin1String option) {
   using Limits = std::numeric_limits<std::int16_t>;
-  const std::optional<qint64> number = wholeNumber(text, Limits::min(), Limits::max());
+  const std::optional<qint64> number = wholeNumber(text, -Limits::max(), Limits::max());
   if (!number) throw UsageError(u"\"%1\" of --%2 is no whole number."_s.arg(text, option));
   return QString::number(*number);
 }
@@ -84,10 +84,8 @@ void readGprs(const QCommandLineParser& given, SettingsStore& phone) {
   const QString text = given.value(u"gprs"_s);
   if (text == "off"_L1)
     phone.write(setting::ShowGPRSIcon, u"0"_s);
-  else if (text == "0"_L1 || text == "1"_L1)
-    phone.write(setting::GPRSRange, text);
   else
-    throw UsageError(u"\"%1\" of --gprs is none of 0, 1 and off."_s.arg(text));
+    phone.write(setting::GPRSRange, settingNumber(text, "gprs"_L1));
 }
 
 Border readBorder(const QCommandLineParser& given) {
@@ -101,7 +99,8 @@ Border readBorder(const QCommandLineParser& given) {
 std::optional<QDateTime> readNow(const QCommandLineParser& given) {
   if (!given.isSet(u"now"_s)) return std::nullopt;
   const QString text = given.value(u"now"_s);
-  const QDateTime now = QDateTime::fromString(text, u"yyyy-MM-dd hh:mm"_s);
+  // In a zone without changes of the clock, so that every hour of every day is there.
+  const QDateTime now = QDateTime::fromString(text + u'Z', u"yyyy-MM-dd hh:mmt"_s);
   if (now.isValid()) return now;
   throw UsageError(u"\"%1\" of --now is no time like \"2003-05-17 14:05\"."_s.arg(text));
 }
@@ -114,8 +113,8 @@ std::optional<quint32> readSeed(const QCommandLineParser& given) {
 
 QString readLanguage(const QCommandLineParser& given) {
   QString file = given.value(u"language"_s);
-  if (!given.isSet(u"language"_s) || FileExists(file)) return file;
-  throw Fault(FaultNumber::FileNotFound, u"Language file \"%1\" not found."_s.arg(file));
+  if (given.isSet(u"language"_s)) readFile(file);  // throws where it cannot be read
+  return file;
 }
 
 RenderSettings readSettings(const QCommandLineParser& given) {

@@ -24,9 +24,8 @@ void saveScreens(const std::vector<RenderedScreen>& screens, const QString& fold
     savePng(magnified(screen.image, scale), QDir(folder).filePath(screen.id + u".png"_s));
 }
 
-SheetHeading headingOf(const OpenedTheme& opened) {
-  const FaultReporter toldAtLoad = [](const Fault&) {};
-  const ThemeTagTexts tags = readThemeTags(opened.theme.xml, toldAtLoad);
+SheetHeading headingOf(const OpenedTheme& opened, const FaultReporter& report) {
+  const ThemeTagTexts tags = readThemeTags(opened.theme.xml, report);
   const QString& name = tags.at(0);
   const QString& creator = tags.at(1);
   const QString phones = opened.generation() == Generation::Two ? u"Generation 2"_s : u"3G"_s;
@@ -52,11 +51,13 @@ int runRender(const QCommandLineParser& given, const Streams& streams) {
   const FaultReporter report = reporterTo(streams, path);
   const OpenedTheme opened = openTheme(path, report);
   const auto screens = renderScreens(opened, options.settings, options.screens, report);
+  const int status = complainOfFaults(screens, path, streams);
   if (options.sheet)
-    savePng(magnified(contactSheet(headingOf(opened), screens), options.scale), *options.sheet);
+    savePng(magnified(contactSheet(headingOf(opened, report), screens), options.scale),
+            *options.sheet);
   else
     saveScreens(screens, options.folder, options.scale);
-  return complainOfFaults(screens, path, streams);
+  return status;
 }
 
 }  // namespace

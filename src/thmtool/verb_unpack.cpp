@@ -5,6 +5,8 @@
 #include "thmtool/verbs.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
 
 namespace quillane {
 
@@ -13,9 +15,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 int runUnpack(const QCommandLineParser& given, const Streams&) {
-  const QStringList words = given.positionalArguments();
-  makeOutputFolder(words.at(1));
-  extractTheme(words.at(0), words.at(1));
+  const QString theme = given.positionalArguments().at(0);
+  const QString folder = given.positionalArguments().at(1);
+  const bool isNew = !QFileInfo::exists(folder);
+  makeOutputFolder(folder);
+  try {
+    extractTheme(theme, folder);
+  } catch (...) {
+    // Removes it only while it is empty: what came before the damage stays.
+    if (isNew) QDir().rmdir(folder);
+    throw;
+  }
   return AllWell;
 }
 

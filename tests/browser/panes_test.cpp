@@ -109,6 +109,7 @@ TEST_F(Panes, ShowTheXmlAboveThemselves) {
   open();
   auto& xml = control<QPlainTextEdit>("txtXML");
   EXPECT_TRUE(xml.isHidden());
+  EXPECT_EQ(xml.viewport()->backgroundRole(), QPalette::Button);
   click("btnViewXML");
   EXPECT_TRUE(control<QAction>("mnuViewItem_1").isChecked());
   list().setSelected(0, true);

@@ -79,6 +79,17 @@ TEST_F(Selection, WalksWithTheArrowKeys) {
   EXPECT_TRUE(painted("picStandby2") && painted("picDesktop2"));
 }
 
+TEST_F(Selection, FirstArrowAndRangesBeginWhereTheListStands) {
+  for (const char* name : {"a.thm", "b.thm", "c.thm"})
+    addTheme(name);
+  open();
+  QTest::keyClick(&list(), Qt::Key_Down);
+  EXPECT_EQ(list().selectedItems(), QList<int>{0});
+  click("btnNext");
+  QTest::keyClick(&list(), Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(list().selectedItems(), (QList<int>{1, 2})) << "from the item stepped to";
+}
+
 TEST_F(Selection, ReportsDamageWithoutAMessage) {
   addDamaged("a.thm");
   addTheme("b.thm", {}, true);
@@ -185,6 +196,15 @@ TEST_F(Selection, ShowsAFaultOnceInALoad) {
   open();
   select(0);
   EXPECT_TRUE(shown("picPreview_1"));
+}
+
+TEST_F(Selection, SelectAllForgetsAFailure) {
+  addDamaged("a.thm");
+  open();
+  select(0);
+  trigger("mnuEditItem_6");
+  EXPECT_EQ(statusIcon(), '-');
+  EXPECT_TRUE(control<QAction>("mnuEditItem_1").isEnabled()) << "one is selected, none has failed";
 }
 
 TEST_F(Selection, ThousandsAreSelectedAtOnce) {

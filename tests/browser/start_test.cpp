@@ -46,15 +46,27 @@ TEST_F(BrowserStart, StaysWhereItWasForAMissingFolder) {
 
 TEST_F(BrowserStart, EndsWithAnEmptyWorkFolderAndKeptFolders) {
   addTheme("a.thm");
-  state.ExportFolder = path("export/");
+  const std::pair<const Setting&, QString PublicState::*> kept[] = {
+      {setting::CaptureFolder, &PublicState::CaptureFolder},
+      {setting::ExtractFolder, &PublicState::ExtractFolder},
+      {setting::ExportFolder, &PublicState::ExportFolder},
+      {setting::ImageFolder, &PublicState::ImageFolder},
+      {setting::TARWizFilesFolder, &PublicState::TARWizFilesFolder},
+      {setting::ImageWizOpenFolder, &PublicState::ImageWizOpenFolder},
+      {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder}};
+  for (const auto& [setting, folder] : kept)
+    state.*folder = path(setting.key);
   open();
   list().setSelected(0, true);
   ASSERT_FALSE(listOf("temp").isEmpty());
   browser->close();
   EXPECT_TRUE(listOf("temp").isEmpty());
   EXPECT_EQ(settings.read(setting::BrowseFolder), path("themes/"));
-  EXPECT_EQ(settings.read(setting::ExportFolder), path("export/"));
-  EXPECT_EQ(settings.read(setting::ThemesFolder), "") << "only the preferences write it";
+  for (const auto& [setting, folder] : kept)
+    EXPECT_EQ(settings.read(setting), path(setting.key));
+  for (const Setting& unkept :
+       {setting::ThemesFolder, setting::CopyMoveFolder, setting::ImportFolder})
+    EXPECT_EQ(settings.read(unkept), "") << unkept.key;
   EXPECT_FALSE(state.PreviewEngine2);
 }
 

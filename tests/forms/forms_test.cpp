@@ -104,6 +104,16 @@ TEST_F(Forms, BalloonOpensOnHoverAndOnlyWithAText) {
   EXPECT_FALSE(balloon()->isVisible());
 }
 
+TEST_F(Forms, HostileNamesStayWithinTheBalloon) {
+  Balloon balloon(nullptr);
+  for (const QString& text : {QString(1'000'000, 'n'), QString("n\r\n").repeated(300'000),
+                              QString("n ").repeated(300'000)}) {
+    balloon.showAt({400, 400}, {}, text.left(300), text);
+    EXPECT_LE(balloon.width(), 450);
+    EXPECT_LE(balloon.findChild<QLabel*>("balloonText")->text().size(), 20100);
+  }
+}
+
 TEST_F(Forms, FileListSelectsAndInvertsAsAWhole) {
   for (const char* name : {"b.thm", "a.thm", "c.THM", "d.txt"})
     write(name, "x");

@@ -8,6 +8,8 @@
 #include "support/temp_folder.h"
 #include "support/text.h"
 
+#include <QFile>
+
 namespace quillane {
 
 namespace {
@@ -37,17 +39,67 @@ TEST_F(Language, FillsGeneration2FromDefaults) {
   EXPECT_TRUE(log.texts().isEmpty());
 }
 
-TEST_F(Language, TakesTheTextsOfTheFile) {
-  write("2/own.lng",
-        "[PopupMenu]\r\nMenuList1=--1Uno\r\nMenuList2=--2Due\r\n[Notes]\r\nNote=Ciao\r\n");
+/// The shipped file of a generation with "!" behind each value.
+QByteArray markedFile(const QString& folder) {
+  QFile file(LANGUAGE_FOLDER "/" + folder + "/english.lng");
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return file.readAll().replace("\r\n", "!\r\n").replace("]!", "]");
+}
+
+/// Every text of an engine, as the shipped file has it when nothing else is said.
+template <class Engine, std::size_t Count>
+void expectMarked(const Engine& engine, const Engine& standard,
+                  QString Engine::*const (&texts)[Count]) {
+  for (const auto text : texts)
+    EXPECT_EQ(engine.*text, standard.*text + '!');
+}
+
+TEST_F(Language, TakesEveryTextOfTheFile) {
+  write("2/own.lng", markedFile("2"));
+  write("3G/own.lng", markedFile("3G"));
+  clsVistrel standard2(world), engine2(world);
+  clsVistrel3G standard3G(world), engine3G(world);
+  InitPreview2(standard2, state, settings, log.reporter());
+  InitPreview3G(standard3G, state, settings, log.reporter());
+  const QString standardList2 = state.PopupMenuList2;
   state.ConfigFolder2 = path("2/");
-  state.LanguageFile2 = "own.lng";
-  clsVistrel engine(world);
-  InitPreview2(engine, state, settings, log.reporter());
-  EXPECT_EQ(engine.PopupMenuText, "--1Uno");
-  EXPECT_EQ(state.PopupMenuList2, "--2Due");
-  EXPECT_EQ(engine.NotesText, "Ciao");
-  EXPECT_EQ(engine.PromptText, "Text:");
+  state.ConfigFolder3G = path("3G/");
+  state.LanguageFile2 = state.LanguageFile3G = "own.lng";
+  InitPreview2(engine2, state, settings, log.reporter());
+  InitPreview3G(engine3G, state, settings, log.reporter());
+
+  using Two = clsVistrel;
+  expectMarked(engine2, standard2,
+               {&Two::DesktopTitle, &Two::TitleText, &Two::MenuSmallText, &Two::MenuMediumText,
+                &Two::MenuLargeText, &Two::PromptText, &Two::PopupTitleText, &Two::PopupMenuText,
+                &Two::PopupPromptText, &Two::PopupWindowText, &Two::NotesText});
+  EXPECT_EQ(state.PopupMenuList1, engine2.PopupMenuText);
+  EXPECT_EQ(state.PopupMenuList2, standardList2 + '!');
+  using ThreeG = clsVistrel3G;
+  expectMarked(engine3G, standard3G,
+               {&ThreeG::StandbySoftkeyText,
+                &ThreeG::DesktopTitles,
+                &ThreeG::DesktopSoftkeyText,
+                &ThreeG::TitleText,
+                &ThreeG::MenuText1,
+                &ThreeG::MenuText2,
+                &ThreeG::MenuSoftkeyText,
+                &ThreeG::MoreListTitleText,
+                &ThreeG::MoreListMenuText1,
+                &ThreeG::MoreListMenuText2,
+                &ThreeG::MoreListSoftkeyText,
+                &ThreeG::SoftkeysMenuTitleText,
+                &ThreeG::SoftkeysMenuText1,
+                &ThreeG::SoftkeysMenuText2,
+                &ThreeG::SoftkeysSoftkeyText,
+                &ThreeG::CalendarDaysOfWeek,
+                &ThreeG::CalendarSoftkeyText,
+                &ThreeG::NotesText,
+                &ThreeG::WapbrowserTitleText,
+                &ThreeG::WapbrowserSoftkeyText,
+                &ThreeG::ProgressWindowText,
+                &ThreeG::AcceptWindowText,
+                &ThreeG::AcceptWindowSoftkeyText});
 }
 
 TEST_F(Language, Fills3GAndSwitchesImagesOn) {

@@ -72,8 +72,6 @@ TEST_F(Start, RunsItsStepsInOrder) {
   EXPECT_EQ(state.LanguageFile3G, "english.lng");
   EXPECT_TRUE(state.IncludeIndexFile && state.CompressXMLCode && state.SmartLAImage);
   EXPECT_FALSE(state.DisableETT);
-  EXPECT_EQ(state.EditorEngine2->OperatorName, "World");
-  EXPECT_TRUE(state.EditorEngine3G->DrawImages);
   EXPECT_TRUE(log.texts().isEmpty());
 }
 
@@ -82,20 +80,73 @@ TEST_F(Start, EmptiesTheWorkFolder) {
   write("home/temp/new/left.xml", "x");
   start();
   EXPECT_TRUE(listOf("home/temp").isEmpty());
+
+  write("theirs/kept.xml", "x");
+  QFile::link(path("theirs"), home("temp/new"));
+  start();
+  EXPECT_EQ(read("theirs/kept.xml"), "x") << "a link leads nowhere";
 }
 
 TEST_F(Start, SettlesTheFolders) {
+  struct Row {
+    const Setting& setting;
+    QString PublicState::*variable;
+    const char* standard;
+  };
+  const Row rows[] = {
+      {setting::ThemesFolder, &PublicState::ThemesFolder, "My Themes/"},
+      {setting::CopyMoveFolder, &PublicState::CopyMoveFolder, "My Themes/"},
+      {setting::BrowseFolder, &PublicState::BrowseFolder, "My Themes/"},
+      {setting::ImageFolder, &PublicState::ImageFolder, ""},
+      {setting::CaptureFolder, &PublicState::CaptureFolder, ""},
+      {setting::ExtractFolder, &PublicState::ExtractFolder, ""},
+      {setting::ExportFolder, &PublicState::ExportFolder, ""},
+      {setting::ImportFolder, &PublicState::ImportFolder, ""},
+      {setting::TARWizFilesFolder, &PublicState::TARWizFilesFolder, ""},
+      {setting::ImageWizOpenFolder, &PublicState::ImageWizOpenFolder, ""},
+      {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder, ""},
+  };
   makeFolder("home/My Themes");
-  makeFolder("pictures");
-  settings.write(setting::ImageFolder, path("pictures"));
+  start();
+  for (const Row& row : rows)
+    EXPECT_EQ(state.*row.variable, home(row.standard)) << row.setting.key;
+  for (const Row& row : rows)
+    settings.write(row.setting, makeFolder(row.setting.key));
+  start();
+  for (const Row& row : rows)
+    EXPECT_EQ(state.*row.variable, path(row.setting.key) + '/') << row.setting.key;
   settings.write(setting::ExportFolder, path("vanished"));
   start();
-  EXPECT_EQ(state.ThemesFolder, home("My Themes/"));
-  EXPECT_EQ(state.BrowseFolder, home("My Themes/"));
-  EXPECT_EQ(state.CopyMoveFolder, home("My Themes/"));
-  EXPECT_EQ(state.ImageFolder, path("pictures/"));
   EXPECT_EQ(state.ExportFolder, home());
-  EXPECT_EQ(state.CaptureFolder, home());
+}
+
+TEST_F(Start, TakesTheSwitchesAndFilesFromTheSettings) {
+  write("shipped/Vistrel Config/3G/own.lng", "[Notes]\nNote=Mine\n");
+  for (const Setting& off :
+       {setting::IncludeIndexFile, setting::CompressXMLCode, setting::SmartLAImage,
+        setting::ActiveSignal, setting::ActiveDesktop, setting::ActiveBattery})
+    settings.write(off, "0");
+  settings.write(setting::DisableETT, "-1");
+  settings.write(setting::UserPalette, "my.pal");
+  settings.write(setting::LanguageFile2, "two.lng");
+  settings.write(setting::LanguageFile3G, "own.lng");
+  settings.write(setting::TimeFormat, "hh");
+  settings.write(setting::GPRSRange, "0");
+  start();
+  EXPECT_FALSE(state.IncludeIndexFile || state.CompressXMLCode || state.SmartLAImage);
+  EXPECT_FALSE(state.ActiveSignal || state.ActiveDesktop || state.ActiveBattery);
+  EXPECT_TRUE(state.DisableETT && state.IViewPresent);
+  EXPECT_EQ(state.UserPalette, "my.pal");
+  EXPECT_EQ(state.LanguageFile2, "two.lng");
+  for (const auto* engine : {state.PreviewEngine3G.get(), state.EditorEngine3G.get()}) {
+    EXPECT_EQ(engine->NotesText, "Mine") << "a shipped file is there before it is read";
+    EXPECT_EQ(engine->TimeFormat, "hh");
+    EXPECT_TRUE(engine->DrawImages);
+  }
+  for (const auto* engine : {state.PreviewEngine2.get(), state.EditorEngine2.get()}) {
+    EXPECT_EQ(engine->GPRSRange, 0);
+    EXPECT_EQ(engine->OperatorName, "World");
+  }
 }
 
 TEST_F(Start, FallsBackToTheProgramFolderFromAMissingThemesFolder) {

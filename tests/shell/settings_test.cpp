@@ -11,19 +11,23 @@ namespace {
 
 class Settings : public TempFolder {};
 
-TEST_F(Settings, ReadsFlagsAndNumbersAsTexts) {
+TEST_F(Settings, ReadsFlagsAndNumbersFromTexts) {
   struct Case {
     const char* stored;
     bool flag;
-    int faults;
+    int number;
+    int faults;  // of both readings
   };
-  const Case cases[] = {{"0", false, 0}, {"-1", true, 0},  {"1", true, 0},    {" 7 ", true, 0},
-                        {"", true, 1},   {"yes", true, 1}, {"99999", true, 1}};
+  const Case cases[] = {{"0", false, 0, 0},  {"-1", true, -1, 0}, {" 7 ", true, 7, 0},
+                        {"0.5", true, 0, 0}, {"2.5", true, 2, 0}, {"70000", true, 3, 1},
+                        {"", true, 3, 2},    {"yes", true, 3, 2}};
+  const Setting number{"General", "Number", "3"};
   for (const Case& row : cases) {
     MemorySettings store;
     FaultLog log;
-    store.write(setting::ActiveSignal, row.stored);
-    EXPECT_EQ(flagSetting(store, setting::ActiveSignal, log.reporter()), row.flag) << row.stored;
+    store.write(number, row.stored);
+    EXPECT_EQ(flagSetting(store, number, log.reporter()), row.flag) << row.stored;
+    EXPECT_EQ(numberSetting(store, number, log.reporter()), row.number) << row.stored;
     EXPECT_EQ(log.texts().size(), row.faults) << row.stored;
   }
 }
@@ -45,18 +49,31 @@ TEST_F(Settings, JoinsAValueWithABareComma) {
 }
 
 TEST_F(Settings, KeepsABrokenFileBesideANewOne) {
-  const QByteArray broken = "[General\nthis is no settings file\n";
-  const QString file = write("x.ini", broken);
-  FaultLog log;
-  {
-    IniSettings store(file, log.reporter());
-    EXPECT_EQ(store.read(setting::BatteryLevel), "10");
-    store.write(setting::BatteryLevel, "3");
+  const QByteArray good = "[%General]\nOperatorName=Mine\n";
+  const QByteArray cases[] = {QByteArray(300, '\0'), "this is no settings file\nat all",
+                              good + "half a li", "[Vistrel2Dynamics\nDesktopIcon=4\n"};
+  for (const QByteArray& broken : cases) {
+    const QString file = write("x.ini", broken);
+    FaultLog log;
+    {
+      IniSettings store(file, log.reporter());
+      EXPECT_EQ(store.read(setting::OperatorName), broken.startsWith(good) ? "Mine" : "World");
+      store.write(setting::BatteryLevel, "3");
+      store.flush();
+    }
+    ASSERT_EQ(log.texts().size(), 1) << broken.toStdString();
+    EXPECT_TRUE(log.texts().first().contains(file + ".broken"));
+    EXPECT_EQ(read("x.ini.broken"), broken);
+    EXPECT_TRUE(read("x.ini").contains("BatteryLevel=3"));
   }
-  ASSERT_EQ(log.texts().size(), 1);
-  EXPECT_TRUE(log.texts().first().contains(file)) << log.texts().first().toStdString();
-  EXPECT_EQ(read("x.ini.broken"), broken);
-  EXPECT_TRUE(read("x.ini").contains("BatteryLevel=3"));
+}
+
+TEST_F(Settings, SayWhenTheyCannotBeKept) {
+  write("config", "a file in the way");
+  FaultLog log;
+  IniSettings store(path("config/x.ini"), log.reporter());
+  store.write(setting::BatteryLevel, "3");
+  EXPECT_NE(faultNumberOf([&] { store.flush(); }), 0);
 }
 
 }  // namespace

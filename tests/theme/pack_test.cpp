@@ -4,6 +4,7 @@
 #include "support/temp_folder.h"
 #include "support/text.h"
 #include "theme/archive.h"
+#include "theme/values.h"
 
 #include <QDateTime>
 
@@ -129,6 +130,24 @@ TEST_F(Pack, ListsNamesAndSizes) {
   EXPECT_EQ(themeIndex(files, IndexEnd::LineEnd), index + "\r\n");
   EXPECT_EQ(themeIndex({}, IndexEnd::LineEnd), "");
   EXPECT_EQ(faultNumberOf([&] { themeIndex({path(u"missing"_s)}, IndexEnd::Bare); }), 53);
+}
+
+TEST(ThemeImages, FollowTheTableAndLeaveOutSharedOnesOfGeneration2) {
+  ThemeValues two(Generation::Two);
+  two.setImage(gen2::BackgroundImage, u"/t/back.gif"_s);
+  two.setImage(gen2::DesktopBackgroundImage, u"/T/Back.gif"_s);
+  two.setImage(gen2::TitleImageLarge, u"/t/large.gif"_s);
+  two.setImage(gen2::TitleImageAsian, u"/t/asian.gif"_s);
+  EXPECT_EQ(themeImages(two),
+            (QStringList{u"/t/back.gif"_s, u"/t/large.gif"_s, u"/t/asian.gif"_s}));
+  two.setImage(gen2::TitleImageAsian, u"/t/LARGE.gif"_s);
+  EXPECT_EQ(themeImages(two), (QStringList{u"/t/back.gif"_s, u"/t/large.gif"_s}));
+
+  ThemeValues threeG(Generation::ThreeG);
+  threeG.setImage(gen3g::DesktopBackgroundImage, u"/t/a.gif"_s);
+  threeG.setImage(gen3g::WallpaperImage, u"/t/a.gif"_s);
+  threeG.setImage(gen3g::StatusbarBackgroundImage, u"/t/s.gif"_s);
+  EXPECT_EQ(themeImages(threeG), (QStringList{u"/t/s.gif"_s, u"/t/a.gif"_s, u"/t/a.gif"_s}));
 }
 
 }  // namespace
