@@ -45,12 +45,40 @@ bool isTooLarge(QSize size) {
   return qAbs(size.width()) > kLongestSide || qAbs(size.height()) > kLongestSide;
 }
 
+/// The little-endian number of `width` bytes at a place; 0 beyond the end.
+qint64 numberAt(const QByteArray& bytes, qint64 at, int width) {
+  qint64 number = 0;
+  if (at < 0 || at + width > bytes.size()) return 0;
+  for (int i = width - 1; i >= 0; --i)
+    number = number * 256 + static_cast<uchar>(bytes[at + i]);
+  return number;
+}
+
 /// The logical screen in a GIF's header. The decoder tells the first frame's size instead.
 QSize gifScreen(const QByteArray& start) {
-  const auto word = [&](qsizetype at) {
-    return static_cast<uchar>(start[at]) + 256 * static_cast<uchar>(start[at + 1]);
-  };
-  return {word(6), word(8)};
+  return {static_cast<int>(numberAt(start, 6, 2)), static_cast<int>(numberAt(start, 8, 2))};
+}
+
+/// Bytes of a bitmap's row.
+qint64 rowBytes(int width, int bits) {
+  return (width * qint64{bits} + 31) / 32 * 4;
+}
+
+/// Clears what the AND mask of an icon file's first image hides where the decoder passes the mask
+/// over: at 24 bits. The mask stands behind the colours, its rows from the bottom up.
+QImage withIconMask(const QImage& decoded, const QByteArray& bytes) {
+  constexpr int kHeaderBytes = 40;
+  constexpr int kBits = 24;
+  const qint64 header = numberAt(bytes, 18, 4);  // The offset in the first directory entry.
+  if (numberAt(bytes, header, 4) != kHeaderBytes || numberAt(bytes, header + 14, 2) != kBits)
+    return decoded;
+
+  QImage image = decoded.convertToFormat(QImage::Format_ARGB32);
+  qint64 row = header + kHeaderBytes + image.height() * rowBytes(image.width(), kBits);
+  for (int y = image.height() - 1; y >= 0; --y, row += rowBytes(image.width(), 1))
+    for (int x = 0; x < image.width(); ++x)
+      if ((numberAt(bytes, row + x / 8, 1) >> (7 - x % 8) & 1) != 0) image.setPixel(x, y, 0);
+  return image;
 }
 
 /// Decodes the bytes of a picture file; a null image when they are none.
@@ -68,7 +96,8 @@ QImage decode(QByteArray bytes) {
   reader.setAutoDetectImageFormat(false);
   if (isTooLarge(reader.size())) return {};
   const QImage image = reader.read();
-  return isTooLarge(image.size()) ? QImage() : image;
+  if (isTooLarge(image.size())) return {};
+  return format == "ico" && !image.isNull() ? withIconMask(image, bytes) : image;
 }
 
 /// Decodes, or remembers having decoded the same bytes: the screens of a theme share their

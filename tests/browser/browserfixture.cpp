@@ -30,7 +30,7 @@ void BrowserTest::addTheme(const QString& name, const QByteArray& elements, bool
   const QByteArray root = is3G ? "Sony_Ericsson_theme" : "Ericsson_theme";
   QStringList members{write("pack/theme.xml", '<' + root + '>' + elements + "</" + root + '>')};
   for (const QString& image : images)
-    members << write("pack/" + image, test::tinyGif({101, 80}, {0, 0, 101, 80}, 1));
+    members << write("pack/" + image, tinyGif({101, 80}, {0, 0, 101, 80}, 1));
   packArchive(path("themes/" + name), members);
 }
 

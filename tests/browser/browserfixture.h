@@ -55,8 +55,8 @@ class BrowserTest : public TempFolder {
 
   PublicState state;
   MemorySettings settings;
-  test::ScriptedDialogs dialogs;
-  test::StillWorld world;
+  ScriptedDialogs dialogs;
+  StillWorld world;
   FaultLog faults;
   std::unique_ptr<frmBrowser> browser;
 };

@@ -149,7 +149,7 @@ TEST_F(Forms, EmptyListSurvivesItsOperations) {
 }
 
 TEST_F(Forms, EventProcedureShowsAFaultAndPassesACancelOver) {
-  test::ScriptedDialogs dialogs;
+  ScriptedDialogs dialogs;
   dialogs.expectMessage("It broke.\r\nin Quillane.frmX.btnY_Click at line 7");
   const QString tag = "in Quillane.frmX.btnY_Click ";
   eventProcedure(dialogs, nullptr, tag, [] { throw Fault(FaultNumber::BadCall, "It broke.", 7); });

@@ -2,200 +2,199 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/clsvistrel3g.h"
 
-#include "preview/picture.h"
-#include "preview/screens.h"
-#include "preview/surface.h"
-#include "support/faults.h"
+#include "preview/clsvistrel.h"
+#include "support/probes.h"
 #include "support/samplephone.h"
-#include "support/stillworld.h"
-
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
+#include "support/text.h"
 
 #include <functional>
+#include <string_view>
 
 namespace quillane {
 namespace {
 
-using test::faultOf;
-
 constexpr QRgb kMargin = 0xFFD4D0C8;
+constexpr QRgb kGround = 0xFFC0DFFF;
+constexpr QRgb kDesktopGround = 0xFFBFD3E8;
+constexpr QRgb kImage = 0xFF00AA00;
 
-class Vistrel3GTest : public testing::Test {
+class Vistrel3GTest : public EngineTest<clsVistrel3G> {
  protected:
-  void SetUp() override {
-    engine.setSurface(surface);
-    test::fillPhone(engine);
-  }
+  Vistrel3GTest() : EngineTest(Surface::kSize3G) { fillPhone(engine); }
 
-  QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
-  QString file(QSize size, QRgb color) {
+  QString file(QSize size) const {
     QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    QString path = folder.filePath(QStringLiteral("%1.bmp").arg(++files));
-    EXPECT_TRUE(image.save(path));
-    return path;
+    image.fill(kImage);
+    return save(image);
   }
-
-  int files = 0;
-  QTemporaryDir folder;
-  test::StillWorld world;
-  clsVistrel3G engine{world};
-  Surface surface{Surface::kSize3G};
 };
 
-TEST_F(Vistrel3GTest, BoundedSettersAndDefaults) {
-  clsVistrel3G fresh(world);
-  EXPECT_FALSE(fresh.DrawImages);
-  EXPECT_EQ(fresh.DesktopIcon, 0);
-  fresh.DesktopIcon = 12;
-  EXPECT_EQ(fresh.DesktopIcon, 12);
-  fresh.DesktopIcon = 0;
-  EXPECT_EQ(fresh.DesktopIcon, 5);
-  fresh.DesktopIcon = 13;
-  EXPECT_EQ(fresh.DesktopIcon, 5);
-  fresh.setColor(gen3g::TextColor, QString());
-  EXPECT_EQ(fresh.color(gen3g::TextColor), QString());
-  fresh.DefaultColors();
-  EXPECT_EQ(fresh.color(gen3g::BackgroundColor), QStringLiteral("C0DFFF"));
+TEST(BoundedTest, ANumberOutOfItsRangeBecomesAFixedOne) {
+  StillWorld world;
+  clsVistrel two(world);
+  clsVistrel3G three(world);
+  const auto check = [](const char* name, auto property, int low, int high, int otherwise) {
+    EXPECT_EQ(property, 0) << name << ", never set";
+    EXPECT_EQ(property = low, low) << name;
+    EXPECT_EQ(property = high, high) << name;
+    EXPECT_EQ(property = low - 1, otherwise) << name;
+    EXPECT_EQ(property = low, low) << name;
+    EXPECT_EQ(property = high + 1, otherwise) << name;
+  };
+  check("signal", two.SignalStrength, 0, 5, 5);
+  check("battery", two.BatteryLevel, 0, 10, 10);
+  check("GPRS", two.GPRSRange, 0, 1, 1);
+  check("line", two.LineIcon, 1, 2, 1);
+  check("desktop", two.DesktopIcon, 0, 9, 5);
+  check("3G signal", three.SignalStrength, 0, 5, 5);
+  check("3G battery", three.BatteryLevel, 0, 10, 10);
+  check("3G GPRS", three.GPRSRange, 0, 1, 1);
+  check("3G desktop", three.DesktopIcon, 1, 12, 5);
+  EXPECT_FALSE(three.DrawImages);
+  two.CalendarDateFormat = QString();
+  EXPECT_EQ(static_cast<const QString&>(two.CalendarDateFormat), QStringLiteral("mmm yyyy"));
 }
 
-TEST_F(Vistrel3GTest, ZonesShowTheirImageOrTheirColour) {
-  // A picture larger than its zone is cut to it.
-  engine.setImage(gen3g::WallpaperImage, file({200, 200}, 0xFF00AA00));
-  engine.setImage(gen3g::StatusbarBackgroundImage, file({60, 200}, 0xFFAA0000));
+TEST_F(Vistrel3GTest, ImagesAreCutToTheirZones) {
+  const auto standby = [&] { engine.DrawStandby(); };
+  const auto desktop = [&] { engine.DrawDesktop(); };
+  const auto list = [&] { engine.DrawSoftkeys(0); };
+  const struct {
+    gen3g::Image slot;
+    std::function<void()> draw;
+    QSize size;
+    QRect shown;
+  } table[] = {
+      {gen3g::StatusbarBackgroundImage, standby, {200, 200}, {5, 5, 128, 14}},
+      {gen3g::WallpaperImage, standby, {200, 200}, {5, 19, 128, 127}},
+      {gen3g::DesktopBackgroundImage, desktop, {200, 200}, {5, 19, 128, 127}},
+      {gen3g::TitleImage, list, {200, 200}, {5, 19, 128, 23}},
+      {gen3g::GeneralBackgroundImage, list, {200, 200}, {5, 42, 123, 104}},  // Beside the bar.
+      {gen3g::HighlightImage, list, {200, 200}, {5, 44, 123, 16}},
+      {gen3g::SoftkeysBackgroundImage, desktop, {200, 200}, {5, 146, 128, 19}},
+      {gen3g::SoftkeysBackgroundImage, list, {130, 22}, {5, 146, 130, 22}},  // Not this one.
+  };
+  for (const auto& row : table) {
+    engine.DefaultColors();
+    engine.setImage(row.slot, file(row.size));
+    row.draw();
+    EXPECT_EQ(boundsOf(surface.image(), kImage), row.shown) << "row " << &row - table;
+  }
+  engine.setImage(gen3g::StatusbarBackgroundImage, file({60, 14}));
   engine.DrawStandby();
-  EXPECT_EQ(pixel(40, 18), 0xFFAA0000);
-  EXPECT_EQ(pixel(64, 5), 0xFFAA0000);
-  EXPECT_EQ(pixel(65, 5), 0xFF000000) << "black below what the image leaves";
-  EXPECT_EQ(pixel(5, 19), 0xFF00AA00);
-  EXPECT_EQ(pixel(132, 145), 0xFF00AA00);
-  EXPECT_EQ(pixel(133, 100), kMargin);
-  EXPECT_EQ(pixel(5, 146), 0xFFC0DFFF);
-  EXPECT_EQ(pixel(132, 164), 0xFFC0DFFF);
-  EXPECT_EQ(pixel(100, 165), kMargin);
-
-  engine.DrawImages = false;
-  engine.DrawStandby();
-  const QImage without = surface.image().copy();
-  engine.DrawImages = true;
-  engine.setImage(gen3g::WallpaperImage, QString());
-  engine.setImage(gen3g::StatusbarBackgroundImage, QString());
-  engine.DrawStandby();
-  EXPECT_EQ(surface.image(), without);
-  EXPECT_EQ(pixel(5, 19), 0xFFC0DFFF);
+  EXPECT_EQ(pixel(65, 5), 0xFF000000) << "black beside what the image leaves";
 }
 
-TEST_F(Vistrel3GTest, SoftkeyBoxes) {
-  const QRgb bar = 0xFFC0DFFF;
-  const QRgb key = 0xFFBDBDBD;
-  const QRgb pressed = 0xFFF6F6F5;
+TEST_F(Vistrel3GTest, StatusIconsAndTheSymbolBetweenTheKeys) {
+  const QRect bar(5, 5, 128, 14);
+  for (int signal = 0; signal <= 5; ++signal) {
+    engine.SignalStrength = signal;
+    engine.BatteryLevel = 2 * signal;
+    engine.GPRSRange = signal % 2;
+    engine.ShowGPRSIcon = signal > 1;
+    engine.DrawStandby();
+    std::vector<PlacedIcon> icons;
+    if (signal > 1) icons.push_back({2300 + signal % 2, {6, 6}});
+    icons.insert(icons.end(), {{2200 + signal, {6, 10}}, {2100 + 2 * signal, {114, 7}}});
+    EXPECT_EQ(part(bar), iconsOn(kGround, icons).copy(bar)) << signal;
+  }
+  const QRect gap(60, 146, 20, 19);
+  EXPECT_EQ(part(gap), iconsOn(kGround, {{2400, {64, 151}}}).copy(gap));
+}
+
+TEST_F(Vistrel3GTest, DesktopCells) {
+  const QRect zone(5, 19, 128, 127);
+  engine.DesktopTitles = QStringLiteral("|||||||||||");
+  for (int icon = 1; icon <= 12; ++icon) {
+    engine.DesktopIcon = icon;
+    engine.DrawDesktop();
+    const QPoint cell(6 + (icon - 1) % 3 * 42, 41 + (icon - 1) / 3 * 26);
+    EXPECT_EQ(part(zone),
+              iconsOn(kDesktopGround, {{2000, {5, 19}}, {2000 + icon, cell}}).copy(zone))
+        << icon;
+  }
+}
+
+TEST_F(Vistrel3GTest, SoftkeyBoxesAndRightLabels) {
+  const auto standby = [&] { engine.DrawStandby(); };
+  const auto desktop = [&] { engine.DrawDesktop(); };
+  const auto pressed = [&] { engine.DrawSoftkeys(1); };
+  const QRect plain(102, 150, 26, 9);  // The label and, one pixel further, its shadow.
   const struct {
     const char* name;
     std::function<void()> draw;
-    std::vector<QRgb>
-        row;  // Bottom row of the boxes at x = 6, 7, 59, 60, 67, 68, 70, 80, 130, 131.
+    const char* labels;
+    QRect left, right, label, shadow;
   } table[] = {
-      {"standby",
-       [&] { engine.DrawStandby(); },
-       {bar, key, key, bar, bar, bar, bar, key, key, bar}},
-      {"one label",
-       [&] { engine.DrawDesktop(); },
-       {bar, key, key, key, key, bar, bar, bar, bar, bar}},
-      {"two labels",
-       [&] {
-         engine.DesktopSoftkeyText = QStringLiteral("a|b");
-         engine.DrawDesktop();
-       },
-       {bar, key, key, key, key, bar, key, key, key, bar}},
-      {"three labels",
-       [&] {
-         engine.DesktopSoftkeyText = QStringLiteral("a|b|c");
-         engine.DrawDesktop();
-       },
-       {bar, key, key, key, key, bar, bar, bar, bar, bar}},
-      {"pressed",
-       [&] { engine.DrawSoftkeys(1); },
-       {bar, key, key, key, key, bar, pressed, pressed, pressed, bar}},
-      {"an image has no boxes",
-       [&] {
-         engine.setImage(gen3g::SoftkeysBackgroundImage, file({128, 19}, bar));
-         engine.DrawSoftkeys(1);
-       },
-       {bar, bar, bar, bar, bar, bar, bar, bar, bar, bar}},
+      {"gap", standby, "|MNH", {7, 148, 53, 15}, {80, 148, 51, 15}, plain, plain.translated(1, 1)},
+      {"one label", desktop, "", {7, 148, 61, 15}, {}, {}, {}},
+      {"two", desktop, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain, plain.translated(1, 1)},
+      {"three", desktop, "|MNH|", {7, 148, 61, 15}, {}, {}, {}},
+      {"pressed", pressed, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain.translated(1, 1), {}},
   };
+  engine.setColor(gen3g::SoftkeysBackgroundColor, QStringLiteral("0000FF"));
+  engine.setColor(gen3g::SoftkeysBackgroundActivatedColor, QStringLiteral("00FFFF"));
+  engine.setColor(gen3g::SoftkeysTextColor, QStringLiteral("FF0000"));
+  engine.setColor(gen3g::SoftkeysTextShadowColor, QStringLiteral("00FF00"));
   for (const auto& row : table) {
+    const QString labels = QString::fromUtf8(row.labels);
+    engine.StandbySoftkeyText = engine.SoftkeysSoftkeyText = labels;
+    engine.DesktopSoftkeyText = labels.isEmpty() ? QStringLiteral(" ") : labels;
     row.draw();
-    std::vector<QRgb> seen;
-    for (const int x : {6, 7, 59, 60, 67, 68, 70, 80, 130, 131})
-      seen.push_back(pixel(x, 162));
-    EXPECT_EQ(seen, row.row) << row.name;
+    const QImage& image = surface.image();
+    const bool isPressed = row.name == std::string_view("pressed");
+    EXPECT_EQ(boundsOf(image, 0xFF0000FF, {0, 0, 69, 171}), row.left) << row.name;
+    EXPECT_EQ(boundsOf(image, isPressed ? 0xFF00FFFF : 0xFF0000FF, {69, 0, 69, 171}), row.right)
+        << row.name;
+    EXPECT_EQ(boundsOf(image, 0xFFFF0000), row.label) << row.name;
+    EXPECT_EQ(boundsOf(image, 0xFF00FF00), row.shadow) << row.name;
   }
-}
-
-TEST_F(Vistrel3GTest, ALargerSoftkeyImageShowsBelowItsZone) {
-  engine.setImage(gen3g::SoftkeysBackgroundImage, file({130, 22}, 0xFF00AA00));
-  engine.DrawDesktop();
-  EXPECT_EQ(pixel(40, 165), kMargin);
-  engine.DrawSoftkeys(0);
-  EXPECT_EQ(pixel(40, 167), 0xFF00AA00);
-  EXPECT_EQ(pixel(134, 150), 0xFF00AA00);
 }
 
 TEST_F(Vistrel3GTest, EveryRowRollsTheDiceAnew) {
-  world.nextRandom = 0.49;
-  engine.DrawSoftkeys(0);
-  EXPECT_EQ(world.reseeded, 5);
-  const QImage empty = surface.image().copy();
-  world.nextRandom = 0.5;
-  engine.DrawSoftkeys(0);
-  for (int row = 0; row < 6; ++row)
-    EXPECT_EQ(
-        surface.image().copy(10, 47 + 16 * row, 10, 10) == empty.copy(10, 47 + 16 * row, 10, 10),
-        row == 0)
-        << row;
+  for (const double random : {0.49, 0.5}) {
+    world.nextRandom = random;
+    engine.DrawSoftkeys(0);
+    const std::vector<PlacedIcon> box{{random < 0.5 ? 2500 : 2501, {10, 127}}};
+    EXPECT_EQ(part({10, 127, 10, 10}), iconsOn(kGround, box).copy(10, 127, 10, 10)) << random;
+  }
+  EXPECT_EQ(world.reseeded, 2 * 5);
 }
 
 TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
+  const auto fault = [&](auto draw) { return faultNumberOf([&] { (engine.*draw)(); }); };
+  const auto softkeys = [&](int i) { return faultNumberOf([&] { engine.DrawSoftkeys(i); }); };
   engine.StandbySoftkeyText = QStringLiteral("Calls");
-  EXPECT_EQ(faultOf([&] { engine.DrawStandby(); }), FaultNumber::BadIndex);
+  EXPECT_EQ(fault(&clsVistrel3G::DrawStandby), 9);
   EXPECT_EQ(pixel(80, 148), 0xFFBDBDBD) << "the right box is there";
-  EXPECT_EQ(surface.image().copy(62, 151, 17, 11), [] {
-    QImage i(17, 11, QImage::Format_RGB32);
-    i.fill(0xFFC0DFFF);
-    return i;
-  }()) << "the symbol between the keys is not";
+  const QRect gap(60, 151, 20, 11);
+  EXPECT_EQ(part(gap), iconsOn(kGround, {}).copy(gap)) << "the symbol is not";
 
   engine.DesktopTitles = QStringLiteral("1|2|3|4");
-  EXPECT_EQ(faultOf([&] { engine.DrawDesktop(); }), FaultNumber::BadIndex);
+  EXPECT_EQ(fault(&clsVistrel3G::DrawDesktop), 9);
   EXPECT_EQ(pixel(7, 148), kMargin) << "no soft keys";
 
   engine.SoftkeysMenuText1 = QStringLiteral("a|b|c|d|e");
-  EXPECT_EQ(faultOf([&] { engine.DrawSoftkeys(0); }), FaultNumber::BadIndex);
-  EXPECT_EQ(faultOf([&] { engine.DrawSoftkeys(1); }), std::nullopt);
-  EXPECT_EQ(faultOf([&] { engine.DrawSoftkeys(2); }), FaultNumber::BadIndex);
+  EXPECT_EQ(softkeys(0), 9);
+  EXPECT_EQ(softkeys(1), 0);
+  EXPECT_EQ(softkeys(2), 9);
 
-  engine.setImage(gen3g::TitleImage, folder.filePath(QStringLiteral("none.gif")));
-  EXPECT_EQ(faultOf([&] { engine.DrawSoftkeys(1); }), FaultNumber::FileNotFound);
-  EXPECT_EQ(pixel(5, 18), 0xFFC0DFFF);
+  engine.setImage(gen3g::TitleImage, path(QStringLiteral("none.gif")));
+  EXPECT_EQ(softkeys(1), 53);
+  EXPECT_EQ(pixel(5, 18), kGround);
   EXPECT_EQ(pixel(5, 19), kMargin);
+  engine.setImage(gen3g::TitleImage, write(QStringLiteral("rubbish.gif"), "no picture"));
+  EXPECT_EQ(softkeys(1), 481);
 
   engine.setColor(gen3g::BackgroundColor, QStringLiteral("green"));
-  EXPECT_EQ(faultOf([&] { engine.DrawDesktop(); }), FaultNumber::BadNumber);
+  EXPECT_EQ(fault(&clsVistrel3G::DrawDesktop), 13);
   EXPECT_EQ(pixel(5, 5), 0xFF000000);
-}
 
-TEST_F(Vistrel3GTest, ScreensOfTheTableDifferAndStayInsideTheirFrame) {
-  QList<QImage> seen;
-  for (const auto& screen : screensOf3G()) {
-    screen.paint(engine);
-    EXPECT_FALSE(seen.contains(surface.image())) << screen.id.data();
-    seen.append(surface.image().copy());
-    for (int x = 0; x < 138; ++x) {
-      EXPECT_EQ(pixel(x, 4), kMargin) << screen.id.data();
-      EXPECT_EQ(pixel(x, 165), kMargin) << screen.id.data();
-    }
-  }
+  clsVistrel3G fresh(world);
+  fresh.setSurface(surface);
+  fresh.DesktopTitles = fresh.DesktopSoftkeyText = QStringLiteral("1|2");
+  EXPECT_EQ(faultNumberOf([&] { fresh.DrawDesktop(); }), 9) << "DesktopIcon was never set";
+  EXPECT_EQ(pixel(7, 148), kMargin);
 }
 
 }  // namespace

@@ -3,119 +3,106 @@
 #include "preview/clsvistrel.h"
 
 #include "preview/paintsteps.h"
-#include "preview/picture.h"
-#include "preview/surface.h"
-#include "support/faults.h"
-#include "support/stillworld.h"
+#include "support/probes.h"
+#include "support/text.h"
 #include "support/tinygif.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 namespace quillane {
 namespace {
 
 constexpr QRgb kMargin = 0xFFD4D0C8;
 constexpr QRgb kFill = 0xFF102030;
+constexpr QRgb kDesktopFill = 0xFF405060;
+const QRect kScreen(5, 5, 101, 80);
 
-class VistrelTest : public testing::Test {
+class VistrelTest : public EngineTest<clsVistrel> {
  protected:
-  VistrelTest() {
-    engine.setSurface(surface);
+  VistrelTest() : EngineTest(Surface::kSize2) {
     engine.setColor(gen2::BackgroundColor, QStringLiteral("102030"));
-    engine.setColor(gen2::DesktopBackgroundColor, QStringLiteral("102030"));
+    engine.setColor(gen2::DesktopBackgroundColor, QStringLiteral("405060"));
   }
 
-  QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
-  int count(QRgb color, const QRect& part = QRect(5, 5, 101, 80)) const {
-    int found = 0;
-    for (int y = part.top(); y <= part.bottom(); ++y)
-      for (int x = part.left(); x <= part.right(); ++x)
-        found += pixel(x, y) == color ? 1 : 0;
-    return found;
+  bool shows(QRgb color) const { return !boundsOf(surface.image(), color, kScreen).isNull(); }
+  /// Saves a picture whose pixels tell their own place.
+  QString map(QSize size) const {
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        image.setPixel(x, y, qRgb(x, y, 77));
+    return save(image);
   }
-  void background(const QImage& image) { use(image, folder.filePath(QStringLiteral("back.bmp"))); }
-  void use(const QImage& image, const QString& path) {
-    ASSERT_TRUE(image.save(path));
-    engine.setImage(gen2::BackgroundImage, path);
+  void background(const QString& file) {
+    engine.setImage(gen2::BackgroundImage, file);
     engine.StandbyType = 1;
   }
-
-  QTemporaryDir folder;
-  test::StillWorld world;
-  clsVistrel engine{world};
-  Surface surface{Surface::kSize2};
 };
 
-/// A picture whose pixels tell their own place.
-QImage map(int width, int height) {
-  QImage image(width, height, QImage::Format_RGB32);
-  for (int y = 0; y < height; ++y)
-    for (int x = 0; x < width; ++x)
-      image.setPixel(x, y, qRgb(x, y, 77));
-  return image;
-}
-
-TEST(PaintStepsTest, AStepThatFailsLeavesFontAndPictureAsTheyWere) {
-  const QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("map.bmp"));
-  ASSERT_TRUE(map(3, 3).save(path));
-  Surface surface(QSize(9, 9));
+TEST_F(VistrelTest, AStepThatFailsKeepsTheFormerPicture) {
   PaintSteps steps(surface);
-  steps.setTextColor(QStringLiteral("123456"));
-  steps.setTextColor(QStringLiteral("nocolr"));
-  EXPECT_EQ(steps.font.Color, 0x563412U);
-  steps.load(path);
-  steps.load(folder.filePath(QStringLiteral("none.bmp")));
+  steps.load(map({3, 3}));
+  steps.load(path(QStringLiteral("none.bmp")));
   steps.icon(9999, 5, 5);
-  EXPECT_EQ(surface.image().pixel(7, 6), qRgb(2, 1, 77)) << "the former picture, painted again";
-}
-
-TEST_F(VistrelTest, BoundedSettersPutAFixedValueInPlaceOfABadOne) {
-  EXPECT_EQ(engine.SignalStrength, 0);
-  EXPECT_EQ(engine.DesktopIcon, 0);
-  const auto after = [](auto& property, int value) {
-    property = value;
-    return static_cast<int>(property);
-  };
-  EXPECT_EQ(after(engine.SignalStrength, 0), 0);
-  EXPECT_EQ(after(engine.SignalStrength, 5), 5);
-  EXPECT_EQ(after(engine.SignalStrength, 6), 5);
-  EXPECT_EQ(after(engine.SignalStrength, -1), 5);
-  EXPECT_EQ(after(engine.BatteryLevel, 11), 10);
-  EXPECT_EQ(after(engine.BatteryLevel, -3), 10);
-  EXPECT_EQ(after(engine.GPRSRange, 0), 0);
-  EXPECT_EQ(after(engine.GPRSRange, 2), 1);
-  EXPECT_EQ(after(engine.LineIcon, 2), 2);
-  EXPECT_EQ(after(engine.LineIcon, 0), 1);
-  EXPECT_EQ(after(engine.DesktopIcon, 0), 0);
-  EXPECT_EQ(after(engine.DesktopIcon, 10), 5);
-  engine.CalendarDateFormat = QString();
-  EXPECT_EQ(static_cast<const QString&>(engine.CalendarDateFormat), QStringLiteral("mmm yyyy"));
+  EXPECT_EQ(pixel(7, 6), qRgb(2, 1, 77));
 }
 
 TEST_F(VistrelTest, DefaultsReplaceTheThemeAndKeepThePhone) {
-  engine.setColor(gen2::TextColor, QString());
-  engine.setColor(gen2::DesktopTitleOutlineColor, QString());
-  EXPECT_EQ(engine.color(gen2::TextColor), QStringLiteral("000000"));
-  EXPECT_EQ(engine.color(gen2::DesktopTitleOutlineColor), QStringLiteral("FFFFFF"));
-
   ThemeValues theme(Generation::Two);
   theme.setImage(gen2::BackgroundImage, QStringLiteral("/back.gif"));
+  theme.setColor(gen2::TitleColor, QStringLiteral("123456"));
   engine.takeTheme(theme);
   EXPECT_EQ(engine.StandbyType, 1);
   engine.OperatorName = QStringLiteral("World");
   engine.PopupPaddingLeftTop = QStringLiteral("9 9");
-  engine.setColor(gen2::TitleColor, QStringLiteral("123456"));
   engine.DefaultColors();
   EXPECT_EQ(engine.StandbyType, 0);
   EXPECT_EQ(engine.image(gen2::BackgroundImage), QString());
   EXPECT_EQ(engine.color(gen2::TitleColor), QStringLiteral("0000FF"));
   EXPECT_EQ(engine.PopupPaddingLeftTop, QStringLiteral("3 5"));
   EXPECT_EQ(engine.OperatorName, QStringLiteral("World"));
-  engine.takeTheme(ThemeValues(Generation::Two));
-  EXPECT_EQ(engine.StandbyType, 0);
+}
+
+TEST_F(VistrelTest, StatusIcons) {
+  const struct {
+    int type, signal, battery;
+    int gprs;  // The range; below zero it is not shown.
+    int line;  // 0 is not shown.
+    bool infrared;
+    std::vector<PlacedIcon> icons;  // Behind those of signal and battery.
+  } table[] = {
+      {0, 0, 0, -1, 0, false, {}},
+      {0, 1, 1, 0, 0, false, {{1300, {5, 72}}}},
+      {0, 2, 3, 1, 0, false, {{1301, {5, 72}}}},
+      {0, 3, 9, -1, 1, false, {{1400, {8, 6}}}},
+      {0, 4, 10, -1, 2, true, {{1401, {23, 6}}, {1500, {9, 6}}}},
+      {1, 5, 10, 1, 2, false, {{1301, {5, 72}}, {1401, {8, 38}}}},
+      {1, 5, 10, -1, 1, true, {{1400, {8, 38}}, {1500, {94, 35}}}},
+      {2, 5, 10, -1, 2, true, {{1401, {23, 6}}, {1500, {9, 6}}}},
+  };
+  for (const auto& row : table) {
+    engine.StandbyType = row.type;
+    engine.SignalStrength = row.signal;
+    engine.BatteryLevel = row.battery;
+    engine.ShowGPRSIcon = row.gprs >= 0;
+    engine.GPRSRange = row.gprs;
+    engine.ShowLineIcon = row.line > 0;
+    engine.LineIcon = row.line;
+    engine.ShowIRIcon = row.infrared;
+    engine.DrawStandby();
+    std::vector<PlacedIcon> icons{{1200 + row.signal, {5, 76}}, {1100 + row.battery, {86, 75}}};
+    icons.insert(icons.end(), row.icons.begin(), row.icons.end());
+    EXPECT_EQ(part(kScreen), iconsOn(kFill, icons).copy(kScreen)) << "row " << &row - table;
+  }
+}
+
+TEST_F(VistrelTest, DesktopCellsAndAMissingTitle) {
+  for (int icon = 0; icon <= 9; ++icon) {
+    if (icon > 0) engine.DesktopIcon = icon;
+    engine.DrawDesktop();
+    std::vector<PlacedIcon> icons{{1000, {5, 5}}};
+    if (icon > 0)
+      icons.push_back({1000 + icon, {6 + (icon - 1) % 3 * 33, 19 + (icon - 1) / 3 * 21}});
+    EXPECT_EQ(part(kScreen), iconsOn(kDesktopFill, icons).copy(kScreen)) << icon;
+  }
 }
 
 TEST_F(VistrelTest, ScreenImagesAreCentredOrCropped) {
@@ -134,31 +121,31 @@ TEST_F(VistrelTest, ScreenImagesAreCentredOrCropped) {
       {{200, 60}, {60, 70}, {105, 55}, {30, 75}},
   };
   for (const auto& row : table) {
-    background(map(row.size.width(), row.size.height()));
+    background(map(row.size));
     engine.DrawStandby();
     EXPECT_EQ(pixel(row.at.x(), row.at.y()), qRgb(row.source.x(), row.source.y(), 77))
-        << row.size.width() << "x" << row.size.height();
-    if (!row.filled.isNull()) {
-      EXPECT_EQ(pixel(row.filled.x(), row.filled.y()), kFill)
-          << row.size.width() << "x" << row.size.height();
-    }
-    EXPECT_EQ(pixel(4, 40), kMargin);
-    EXPECT_EQ(pixel(106, 40), kMargin);
-    EXPECT_EQ(pixel(50, 4), kMargin);
-    EXPECT_EQ(pixel(50, 85), kMargin);
+        << "row " << &row - table;
+    EXPECT_TRUE(row.filled.isNull() || pixel(row.filled.x(), row.filled.y()) == kFill)
+        << "row " << &row - table;
+    EXPECT_EQ(pixel(106, 40), kMargin) << "row " << &row - table;
+    EXPECT_EQ(pixel(50, 85), kMargin) << "row " << &row - table;
   }
 }
 
-TEST_F(VistrelTest, AnImageOfTheScreensSizeShowsTheClearedSurface) {
-  QFile file(folder.filePath(QStringLiteral("clear.gif")));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(test::tinyGif({101, 80}, {0, 0, 101, 40}, 1, 1));
-  file.close();
-  engine.setImage(gen2::BackgroundImage, file.fileName());
-  engine.StandbyType = 1;
-  engine.DrawStandby();
-  EXPECT_EQ(pixel(50, 30), kMargin);
-  EXPECT_EQ(count(kFill), 0);
+TEST_F(VistrelTest, ThroughAScreenImageShowsItsFillOrTheClearedSurface) {
+  for (const auto& [size, filled] : {std::pair{QSize(101, 80), false},
+                                     {{50, 40}, true},
+                                     {{50, 100}, true},
+                                     {{200, 100}, false},
+                                     {{200, 60}, true}}) {
+    const QString file = write(QStringLiteral("clear.gif"), tinyGif(size, {{}, size}, 1, 1));
+    background(file);
+    engine.DrawStandby();
+    EXPECT_EQ(pixel(5, 60), filled ? kFill : kMargin) << size.width();
+    engine.setImage(gen2::DesktopBackgroundImage, file);
+    engine.DrawDesktop();
+    EXPECT_EQ(pixel(5, 60), filled ? kDesktopFill : kMargin) << size.width();
+  }
 }
 
 TEST_F(VistrelTest, StandbyTypeDecidesImageAndOutlines) {
@@ -166,72 +153,33 @@ TEST_F(VistrelTest, StandbyTypeDecidesImageAndOutlines) {
   engine.setColor(gen2::StandbyOperatorNameOutlineColor, QStringLiteral("FF0000"));
   engine.setColor(gen2::StandbyOperatorNameColor, QStringLiteral("00FF00"));
   engine.setColor(gen2::TextColor, QStringLiteral("0000FF"));
-  background(map(101, 80));
-  const QRect top(5, 5, 101, 13);
-  const QRect lower(5, 20, 101, 13);
-
-  engine.StandbyType = 0;
-  engine.DrawStandby();
-  EXPECT_EQ(pixel(20, 50), kFill);
-  EXPECT_EQ(count(0xFF0000FF, top), 0);
-  EXPECT_GT(count(0xFF0000FF, lower), 0);
-
-  engine.StandbyType = 1;
-  engine.DrawStandby();
-  EXPECT_EQ(pixel(20, 50), qRgb(15, 45, 77));
-  EXPECT_GT(count(0xFFFF0000, top), 0);
-  EXPECT_GT(count(0xFF00FF00, top), 0);
-  EXPECT_EQ(count(0xFF0000FF), 0);
-
-  engine.StandbyType = 2;
-  engine.DrawStandby();
-  EXPECT_EQ(count(0xFFFF0000), 0);
-  EXPECT_GT(count(0xFF00FF00, top), 0);
-}
-
-TEST_F(VistrelTest, TheClockFollowsTheWorldAndItsFormat) {
-  engine.TimeFormat = QStringLiteral("hh:mm");
-  engine.DrawStandby();
-  const QImage morning = surface.image().copy();
-  engine.DrawStandby();
-  EXPECT_EQ(surface.image(), morning);
-  world.time = world.time.addSecs(60);
-  engine.DrawStandby();
-  EXPECT_NE(surface.image(), morning);
+  background(map({101, 80}));
+  for (const int type : {0, 1, 2}) {
+    engine.StandbyType = type;
+    engine.DrawStandby();
+    EXPECT_EQ(pixel(20, 50), type == 0 ? kFill : qRgb(15, 45, 77)) << type;
+    EXPECT_EQ(shows(0xFFFF0000), type == 1) << type;
+    EXPECT_EQ(shows(0xFF00FF00), type != 0) << type;
+    EXPECT_EQ(shows(0xFF0000FF), type == 0) << type;
+  }
 }
 
 TEST_F(VistrelTest, FailingStepsAreSkipped) {
   engine.OperatorName = QStringLiteral("World");
-  engine.setImage(gen2::BackgroundImage, folder.filePath(QStringLiteral("none.gif")));
-  engine.StandbyType = 1;
+  background(path(QStringLiteral("none.gif")));
   engine.setColor(gen2::StandbyOperatorNameOutlineColor, QStringLiteral("00FF00"));
   engine.setColor(gen2::StandbyOperatorNameColor, QStringLiteral("nocolr"));
-  engine.DrawStandby();
-  EXPECT_EQ(pixel(20, 50), kFill) << "an unreadable image shows the fill";
-  EXPECT_GT(count(0xFF00FF00), 0);
-  EXPECT_EQ(count(0xFF000000, QRect(5, 5, 101, 13)), 0) << "the name keeps its outline's colour";
-
-  engine.setColor(gen2::BackgroundColor, QStringLiteral("12345G"));
-  engine.DrawStandby();
-  EXPECT_EQ(pixel(20, 50), kMargin);
-  EXPECT_GT(count(0xFF00FF00), 0);
-
-  engine.setColor(gen2::BackgroundColor, QStringLiteral("FF"));
-  engine.DrawStandby();
-  EXPECT_EQ(pixel(20, 50), 0xFFFF0000) << "a short colour is filled up on the right";
-}
-
-TEST_F(VistrelTest, TheDesktopTitleIsOutlinedAndMayBeMissing) {
-  engine.setColor(gen2::DesktopTitleColor, QStringLiteral("00FF00"));
-  engine.setColor(gen2::DesktopTitleOutlineColor, QStringLiteral("FF0000"));
-  engine.DesktopTitle = QStringLiteral("One|Two");
-  const QRect top(5, 4, 101, 13);
-  for (const int icon : {2, 3, 0}) {
-    engine.DesktopIcon = icon;
-    engine.DrawDesktop();
-    EXPECT_EQ(count(0xFF00FF00, top) > 0, icon == 2) << icon;
-    EXPECT_EQ(count(0xFFFF0000, top) > 0, icon == 2) << icon;
-    EXPECT_EQ(pixel(5, 84), kFill);
+  const struct {
+    const char* color;
+    QRgb ground;
+  } table[] = {{"102030", kFill}, {"12345G", kMargin}, {"FF", 0xFFFF0000}};
+  for (const auto& row : table) {
+    engine.setColor(gen2::BackgroundColor, QString::fromUtf8(row.color));
+    engine.DrawStandby();
+    EXPECT_EQ(pixel(20, 50), row.ground) << row.color;
+    EXPECT_TRUE(shows(0xFF00FF00)) << row.color;
+    EXPECT_TRUE(boundsOf(surface.image(), 0xFF000000, {5, 5, 101, 13}).isNull())
+        << "the outline's colour stays";
   }
 }
 

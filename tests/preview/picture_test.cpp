@@ -2,44 +2,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/picture.h"
 
-#include "support/faults.h"
+#include "support/temp_folder.h"
+#include "support/text.h"
 #include "support/tinygif.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
+#include <QRegion>
 
 namespace quillane {
 namespace {
 
-using test::faultOf;
-using test::tinyGif;
-
-TEST(PictureTest, SizesForPlacementAreCutFromHimetric) {
-  const struct {
-    int pixels;
-    int seen;
-  } table[] = {{1, 0},   {2, 2},   {15, 15},   {16, 15},   {17, 17},   {27, 26},   {28, 28},
-               {40, 39}, {80, 80}, {101, 101}, {127, 127}, {128, 128}, {160, 160}, {4096, 4096}};
-  for (const auto& row : table) {
-    const Picture picture(QImage(row.pixels, 1, QImage::Format_RGB32));
-    EXPECT_EQ(picture.width(), row.seen) << row.pixels;
+class PictureTest : public TempFolder {
+ protected:
+  QImage load(const char* name, const QByteArray& bytes) const {
+    return LoadPicture(write(QString::fromUtf8(name), bytes)).image();
   }
-  EXPECT_EQ(Picture().width(), 0);
-  EXPECT_EQ(Picture().height(), 0);
+};
+
+TEST_F(PictureTest, SizesForPlacementAreCutFromHimetric) {
+  for (const auto& [pixels, seen] : {std::pair{0, 0},
+                                     {1, 0},
+                                     {2, 2},
+                                     {15, 15},
+                                     {16, 15},
+                                     {27, 26},
+                                     {40, 39},
+                                     {80, 80},
+                                     {101, 101},
+                                     {128, 128},
+                                     {4096, 4096}}) {
+    EXPECT_EQ(Picture(QImage(pixels, 1, QImage::Format_RGB32)).width(), seen) << pixels;
+    EXPECT_EQ(Picture(QImage(1, pixels, QImage::Format_RGB32)).height(), seen) << pixels;
+  }
 }
 
-TEST(PictureTest, PixelsAreOpaqueOrAbsent) {
-  QImage image(3, 1, QImage::Format_ARGB32);
-  image.setPixel(0, 0, 0x7F123456);
-  image.setPixel(1, 0, 0x80123456);
-  image.setPixel(2, 0, 0xFF123456);
-  const QImage kept = Picture(image).image();
-  EXPECT_EQ(qAlpha(kept.pixel(0, 0)), 0);
-  EXPECT_EQ(kept.pixel(1, 0), 0xFF123456);
-  EXPECT_EQ(kept.pixel(2, 0), 0xFF123456);
+TEST_F(PictureTest, PixelsAreOpaqueOrAbsent) {
+  for (const auto& [given, kept] :
+       {std::pair{0x7F123456U, 0x00123456U}, {0x80123456, 0xFF123456}}) {
+    QImage image(1, 1, QImage::Format_ARGB32);
+    image.fill(given);
+    EXPECT_EQ(Picture(image).image().pixel(0, 0), kept);
+  }
 }
 
 QByteArray encoded(const char* format, QSize size = {3, 2}) {
@@ -52,15 +55,7 @@ QByteArray encoded(const char* format, QSize size = {3, 2}) {
   return bytes;
 }
 
-TEST(PictureTest, FilesAreReadByContent) {
-  const QTemporaryDir folder;
-  const auto load = [&](const char* name, const QByteArray& bytes) {
-    QFile file(folder.filePath(QString::fromUtf8(name)));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
-    return LoadPicture(file.fileName()).image();
-  };
+TEST_F(PictureTest, FilesAreReadByContent) {
   const QRect whole(0, 0, 3, 2);
   const QByteArray gif = tinyGif({3, 2}, whole, 1);
   const QByteArray longGif = tinyGif({30, 20}, {0, 0, 30, 20}, 1);
@@ -68,67 +63,92 @@ TEST(PictureTest, FilesAreReadByContent) {
   const struct {
     const char* name;
     QByteArray bytes;
-    QSize size;
-  } readable[] = {
+    QSize size;  // Null: it cannot be read.
+  } table[] = {
       {"gif.gif", gif, {3, 2}},
       {"gif named.jpg", gif, {3, 2}},
       {"gif without a suffix", gif, {3, 2}},
       {"gif@2x.gif", gif, {3, 2}},
       {"gif cut in its data.gif", longGif.chopped(40), {30, 20}},
-      {"gif of the longest side.gif", tinyGif({4096, 1}, whole, 1), {4096, 1}},
+      {"gif of the longest sides.gif", tinyGif({4096, 4096}, whole, 1), {4096, 4096}},
       {"gif frame below its screen.gif", tinyGif({8, 7}, {2, 3, 3, 2}, 1), {8, 7}},
       {"gif frame beyond its screen.gif", tinyGif({2, 2}, {0, 0, 30, 20}, 1), {2, 2}},
       {"jpeg.jpg", encoded("jpeg"), {3, 2}},
-      {"jpeg named.gif", encoded("jpeg"), {3, 2}},
       {"bitmap.bmp", encoded("bmp"), {3, 2}},
       {"icon.ico", encoded("ico", {16, 16}), {16, 16}},
+      {"png.png", encoded("png"), {}},
+      {"pixmap.ppm", encoded("ppm"), {}},
+      {"text.gif", "no picture at all", {}},
+      {"empty.gif", "", {}},
+      {"gif cut in its header.gif", gif.left(8), {}},
+      {"gif screen too wide.gif", tinyGif({5000, 1}, whole, 1), {}},
+      {"bitmap too wide.bmp", encoded("bmp", {4097, 1}), {}},
+      {"jpeg too high.jpg", encoded("jpeg", {1, 5000}), {}},
+      {"jpeg cut in its header.jpg", encoded("jpeg").left(20), {}},
   };
-  for (const auto& row : readable)
-    EXPECT_EQ(load(row.name, row.bytes).size(), row.size) << row.name;
+  for (const auto& row : table) {
+    QSize size;
+    const int fault = faultNumberOf([&] { size = load(row.name, row.bytes).size(); });
+    EXPECT_EQ(fault, row.size.isValid() ? 0 : 481) << row.name;
+    EXPECT_EQ(size, row.size) << row.name;
+  }
+  EXPECT_EQ(faultNumberOf([&] { LoadPicture(path(QStringLiteral("none.gif"))); }), 53);
+  EXPECT_EQ(faultNumberOf([&] { LoadPicture(path()); }), 53);
 
+  // The first of two frames; the second one begins behind header and palette.
+  const QByteArray twoFrames = gif.chopped(1) + tinyGif({3, 2}, whole, 2).mid(25);
+  EXPECT_EQ(load("two frames.gif", twoFrames).pixel(0, 0), 0xFFFF0000);
+}
+
+/// An icon file of a black picture, 33 x 2 at 24 bits, whose AND mask hides (1, 0) and (32, 1).
+QByteArray maskedIcon() {
+  return QByteArray::fromHex(
+             "0000010001002102000001001800f800000016000000"
+             "2800000021000000040000000100180000000000") +
+         QByteArray(20 + 2 * 100, 0) + QByteArray::fromHex("00000000800000004000000000000000");
+}
+
+TEST_F(PictureTest, TransparentPicturesKeepTheirHoles) {
+  const QRegion icon(0, 0, 33, 2);
+  const QRegion holes = QRegion(1, 0, 1, 1) + QRegion(32, 1, 1, 1);
   const struct {
     const char* name;
     QByteArray bytes;
-  } unreadable[] = {
-      {"png.png", encoded("png")},
-      {"png named.gif", encoded("png")},
-      {"pixmap.ppm", encoded("ppm")},
-      {"text.gif", "no picture at all"},
-      {"empty.gif", ""},
-      {"gif header alone.gif", gif.left(13)},
-      {"gif cut in its header.gif", gif.left(8)},
-      {"gif screen too wide.gif", tinyGif({5000, 1}, whole, 1)},
-      {"gif screen too high.gif", tinyGif({1, 4097}, whole, 1)},
-      {"gif screen of the largest size.gif", tinyGif({65535, 65535}, whole, 1)},
-      {"bitmap too wide.bmp", encoded("bmp", {4097, 1})},
-      {"jpeg too high.jpg", encoded("jpeg", {1, 5000})},
-      {"jpeg cut in its header.jpg", encoded("jpeg").left(20)},
+    QRegion seen;
+  } table[] = {
+      {"gif", tinyGif({4, 3}, {1, 1, 2, 1}, 1, 2), {1, 1, 2, 1}},
+      {"icon", maskedIcon(), icon - holes},
+      {"icon, mask cut", maskedIcon().chopped(8), icon - QRegion(32, 1, 1, 1)},
   };
-  for (const auto& row : unreadable)
-    EXPECT_EQ(faultOf([&] { load(row.name, row.bytes); }), FaultNumber::BadPicture) << row.name;
-
-  EXPECT_EQ(faultOf([&] { LoadPicture(folder.filePath(QStringLiteral("none.gif"))); }),
-            FaultNumber::FileNotFound);
-  EXPECT_EQ(faultOf([&] { LoadPicture(folder.path()); }), FaultNumber::FileNotFound);
+  for (const auto& row : table) {
+    const QImage image = load(row.name, row.bytes);
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        EXPECT_EQ(qAlpha(image.pixel(x, y)), row.seen.contains(QPoint(x, y)) ? 255 : 0)
+            << row.name << " " << x << "," << y;
+  }
 }
 
-TEST(PictureTest, TransparentGifKeepsItsHoles) {
-  const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("hole.gif")));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(tinyGif({4, 3}, {1, 1, 2, 1}, 1, 2));
-  file.close();
-  const QImage image = LoadPicture(file.fileName()).image();
-  ASSERT_EQ(image.format(), QImage::Format_ARGB32);
-  for (int y = 0; y < 3; ++y)
-    for (int x = 0; x < 4; ++x) {
-      const bool inFrame = y == 1 && (x == 1 || x == 2);
-      EXPECT_EQ(qAlpha(image.pixel(x, y)), inFrame ? 255 : 0) << x << "," << y;
-    }
-}
-
-TEST(PictureTest, UnknownIconIsAFault) {
-  EXPECT_EQ(faultOf([] { LoadResourcePicture(9999); }), FaultNumber::ResourceNotFound);
+TEST_F(PictureTest, NumberedIcons) {
+  const struct {
+    int first, last;
+    QSize size;
+  } table[] = {
+      {1000, 1000, {101, 80}},  {1001, 1007, {33, 21}},   {1008, 1008, {33, 20}},
+      {1009, 1009, {33, 21}},   {1100, 1110, {20, 10}},   {1200, 1205, {16, 9}},
+      {1300, 1301, {16, 8}},    {1400, 1401, {9, 9}},     {1500, 1500, {8, 11}},
+      {2000, 2000, {128, 127}}, {2001, 2012, {40, 25}},   {2100, 2110, {18, 9}},
+      {2200, 2205, {16, 9}},    {2300, 2301, {14, 8}},    {2400, 2400, {11, 11}},
+      {2500, 2501, {10, 10}},   {2600, 2600, {110, 103}}, {101, 102, {20, 20}},
+      {103, 107, {16, 16}},     {108, 108, {32, 32}},     {109, 131, {16, 16}},
+      {132, 135, {20, 20}},     {136, 148, {16, 16}},     {211, 214, {24, 24}},
+  };
+  for (const auto& row : table)
+    for (int id = row.first; id <= row.last; ++id)
+      EXPECT_EQ(LoadResourcePicture(id).image().size(), row.size) << id;
+  for (const int board : {1000, 2000})
+    EXPECT_EQ(qAlpha(LoadResourcePicture(board).image().pixel(0, 40)), 0) << board;
+  EXPECT_EQ(faultNumberOf([] { LoadResourcePicture(9999); }), 326);
 }
 
 }  // namespace

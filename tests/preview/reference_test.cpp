@@ -1,36 +1,62 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "reference.h"
-
 #include "preview/modapigraphics.h"
 #include "preview/screens.h"
 #include "preview/surface.h"
+#include "support/probes.h"
 #include "support/samplephone.h"
 #include "support/stillworld.h"
 #include "theme/load.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QPainter>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace quillane {
 namespace {
 
+/// Compares a picture with `reference/<name>/sheet.png` pixel by pixel. What differs is left in the
+/// build tree: the picture and a mask of the differing pixels.
+///
+/// With $QUILLANE_RENEW_REFERENCES set the reference is written anew instead.
+void expectReference(const QString& name, const QImage& actual) {
+  const auto save = [](const QImage& image, const QString& path) {
+    QDir().mkpath(QFileInfo(path).path());
+    EXPECT_TRUE(image.save(path)) << path.toStdString();
+  };
+  const QString path = QStringLiteral(REFERENCE_FOLDER "/%1/sheet.png").arg(name);
+  if (qEnvironmentVariableIsSet("QUILLANE_RENEW_REFERENCES")) return save(actual, path);
+
+  const QImage expected = QImage(path).convertToFormat(QImage::Format_RGB32);
+  QImage mask(actual.size(), QImage::Format_RGB32);
+  mask.fill(Qt::white);
+  const QRect common = actual.rect() & expected.rect();
+  for (int y = 0; y < common.height(); ++y)
+    for (int x = 0; x < common.width(); ++x)
+      if (actual.pixel(x, y) == expected.pixel(x, y)) mask.setPixel(x, y, 0);
+  const QRect box = boundsOf(mask, 0xFFFFFFFF);
+  if (expected.size() == actual.size() && box.isNull()) return;
+  const QString leftovers = QStringLiteral(DIFFERENCE_FOLDER "/") + name;
+  save(actual, leftovers + QStringLiteral("-actual.png"));
+  save(mask, leftovers + QStringLiteral("-mask.png"));
+  ADD_FAILURE() << name.toStdString() << " differs from its reference of " << expected.width()
+                << "x" << expected.height() << " within " << box.width() << "x" << box.height()
+                << " from (" << box.left() << "," << box.top() << "); see "
+                << leftovers.toStdString() << "-*.png";
+}
+
 /// Every face and size of the screens with all the characters of Latin-1 and the ampersand's uses.
 TEST(ReferenceTest, Typefaces) {
-  const FontSpec fonts[] = {
-      {QStringLiteral("Tahoma"), AlignLeft, false, 7, 0},
-      {QStringLiteral("Tahoma"), AlignLeft, true, 7, 0},
-      {QStringLiteral("Tahoma"), AlignLeft, false, 8, 0},
-      {QStringLiteral("Tahoma"), AlignLeft, true, 8, 0},
-      {QStringLiteral("Tahoma"), AlignLeft, true, 9, 0},
-      {QStringLiteral("MS Sans Serif"), AlignLeft, false, 8, 0},
-      {QStringLiteral("MS Sans Serif"), AlignLeft, true, 8, 0},
-      {QStringLiteral("Small Fonts"), AlignLeft, false, 5, 0},
-  };
+  const std::tuple<const char*, bool, int> fonts[] = {
+      {"Tahoma", false, 7},       {"Tahoma", true, 7},      {"Tahoma", false, 8},
+      {"Tahoma", true, 8},        {"Tahoma", true, 9},      {"MS Sans Serif", false, 8},
+      {"MS Sans Serif", true, 8}, {"Small Fonts", false, 5}};
   Surface sheet(QSize(360, 8 * 94), 0xFFFFFF);
   int top = 2;
-  for (const FontSpec& font : fonts) {
+  for (const auto& [name, bold, points] : fonts) {
     QString text = QStringLiteral("&Fun && &Games &gjpqy&&\n");
     for (char16_t character = 0x21; character < 0x100; ++character) {
       if (character >= 0x7F && character < 0xA0) continue;
@@ -38,28 +64,30 @@ TEST(ReferenceTest, Typefaces) {
       if (character == 0x4A || character == 0x6F || character == 0xBF || character == 0xDF)
         text += QLatin1Char('\n');
     }
-    DrawTextRect(sheet, text, 3, top, 92, 354, font);
+    DrawTextRect(sheet, text, 3, top, 92, 354,
+                 {QString::fromUtf8(name), AlignLeft, bold, points, 0});
     top += 94;
   }
-  test::expectReference(QStringLiteral("typefaces/sheet.png"), sheet.image());
+  expectReference(QStringLiteral("typefaces"), sheet.image());
 }
 
 /// All screens of a theme side by side, four in a row.
 template <class Engine>
-QImage contactSheet(std::span<const Screen<Engine>> screens, QSize size, const ThemeValues& theme) {
+QImage contactSheet(std::span<const Screen<Engine>> screens, QSize size, const ThemeValues& theme,
+                    bool images) {
   constexpr int kColumns = 4;
   const int rows = (static_cast<int>(screens.size()) + kColumns - 1) / kColumns;
   QImage sheet(kColumns * size.width(), rows * size.height(), QImage::Format_RGB32);
   sheet.fill(Qt::white);
   QPainter painter(&sheet);
 
-  test::StillWorld world;
+  StillWorld world;
   world.nextRandom = -1;
   Engine engine(world);
   engine.takeTheme(theme);
-  test::fillPhone(engine);
-  int place = 0;
-  for (const Screen<Engine>& screen : screens) {
+  fillPhone(engine);
+  if constexpr (requires { engine.DrawImages; }) engine.DrawImages = images;
+  for (int place = 0; const Screen<Engine>& screen : screens) {
     Surface surface(size);
     engine.setSurface(surface);
     screen.paint(engine);
@@ -70,6 +98,12 @@ QImage contactSheet(std::span<const Screen<Engine>> screens, QSize size, const T
   return sheet;
 }
 
+QImage contactSheet(const ThemeValues& theme, bool images = true) {
+  return theme.schema().generation == Generation::Two
+             ? contactSheet(screensOfGeneration2(), Surface::kSize2, theme, images)
+             : contactSheet(screensOf3G(), Surface::kSize3G, theme, images);
+}
+
 /// Each theme that we ship, as its source folder, and each picture folder has its case.
 TEST(ReferenceTest, Themes) {
   const auto foldersIn = [](const QString& path) {
@@ -77,18 +111,30 @@ TEST(ReferenceTest, Themes) {
   };
   const QDir themes(QStringLiteral(THEMES_FOLDER));
   QStringList cases{QStringLiteral("typefaces")};
+  const auto expectSheet = [&](const QString& name, const QImage& sheet) {
+    expectReference(name, sheet);
+    cases.append(name);
+  };
+  expectSheet(QStringLiteral("defaults 2"), contactSheet(ThemeValues(Generation::Two)));
+  expectSheet(QStringLiteral("defaults 3g"), contactSheet(ThemeValues(Generation::ThreeG)));
+
   for (const QString& name : foldersIn(themes.path())) {
     ImageStates states{};
-    const auto theme = loadTheme(themes.filePath(name), states, [&](const Fault& fault) {
+    auto theme = loadTheme(themes.filePath(name), states, [&](const Fault& fault) {
       ADD_FAILURE() << name.toStdString() << ": " << fault.what();
     });
     ASSERT_TRUE(theme) << name.toStdString();
     EXPECT_EQ(theme->warnings, QStringList()) << name.toStdString();
-    const QImage sheet = theme->values.schema().generation == Generation::Two
-                             ? contactSheet(screensOfGeneration2(), Surface::kSize2, theme->values)
-                             : contactSheet(screensOf3G(), Surface::kSize3G, theme->values);
-    test::expectReference(name + QStringLiteral("/sheet.png"), sheet);
-    cases.append(name);
+    ThemeValues& values = theme->values;
+    expectSheet(name, contactSheet(values));
+    if (values.schema().generation == Generation::Two) continue;
+
+    const QImage imagesOff = contactSheet(values, false);
+    if (name == QStringLiteral("Polar Night"))
+      expectSheet(QStringLiteral("Polar Night, images off"), imagesOff);
+    for (int slot = 0; slot < static_cast<int>(values.schema().images.size()); ++slot)
+      values.setImage(slot, QString());
+    EXPECT_EQ(contactSheet(values), imagesOff) << name.toStdString();
   }
   for (const QString& name : foldersIn(QStringLiteral(REFERENCE_FOLDER)))
     EXPECT_TRUE(cases.contains(name)) << name.toStdString() << " is a reference of nothing";

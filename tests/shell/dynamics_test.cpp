@@ -17,7 +17,7 @@ class Dynamics : public testing::Test {
       stepBattery(preview, editor, state);
   }
 
-  test::StillWorld world;
+  StillWorld world;
   PublicState state;
   clsVistrel preview{world};
   clsVistrel editor{world};

@@ -16,7 +16,7 @@ namespace {
 
 class Language : public TempFolder {
  protected:
-  test::StillWorld world;
+  StillWorld world;
   PublicState state;
   MemorySettings settings;
   FaultLog log;

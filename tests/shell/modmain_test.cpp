@@ -41,7 +41,7 @@ class Start : public TempFolder {
 
   PublicState state;
   MemorySettings settings;
-  test::StillWorld world;
+  StillWorld world;
   NotedScreen screen;
   FaultLog log;
 };

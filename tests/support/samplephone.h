@@ -5,7 +5,7 @@
 #include "preview/clsvistrel.h"
 #include "preview/clsvistrel3g.h"
 
-namespace quillane::test {
+namespace quillane {
 
 /// Gives an engine the English texts and the state of a phone at rest that a new user sees.
 inline void fillPhone(clsVistrel& engine) {
@@ -74,4 +74,4 @@ inline void fillPhone(clsVistrel3G& engine) {
   engine.AcceptWindowSoftkeyText = QStringLiteral("Yes|No");
 }
 
-}  // namespace quillane::test
+}  // namespace quillane

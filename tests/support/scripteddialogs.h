@@ -8,7 +8,7 @@
 
 #include <deque>
 
-namespace quillane::test {
+namespace quillane {
 
 /// Answers dialogs from a script. A dialog that is not next in the script, a text that is not the
 /// expected one, and an answer that nobody asked for fail the test.
@@ -59,4 +59,4 @@ class ScriptedDialogs : public Dialogs {
   std::deque<Step> script_;
 };
 
-}  // namespace quillane::test
+}  // namespace quillane

@@ -6,7 +6,7 @@
 
 #include <random>
 
-namespace quillane::test {
+namespace quillane {
 
 /// A world that stands still on Saturday 14 June 2003, 09:41, and speaks English. Its random number
 /// is the one told, or, below zero, the next of a fixed row.
@@ -27,4 +27,4 @@ class StillWorld : public PreviewWorld {
   std::mt19937 row_{1};
 };
 
-}  // namespace quillane::test
+}  // namespace quillane

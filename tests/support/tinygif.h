@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QRect>
 
-namespace quillane::test {
+namespace quillane {
 
 /// A GIF of one frame that is black, red, green or blue all over (colour 0 to 3 of its palette).
 /// `transparent` is the index of the transparent colour, -1 for none.
@@ -51,4 +51,4 @@ inline QByteArray tinyGif(QSize screen, const QRect& frame, int color, int trans
   return gif + '\0' + ';';
 }
 
-}  // namespace quillane::test
+}  // namespace quillane

@@ -12,7 +12,7 @@ class Render : public ToolTest {
   void SetUp() override {
     ToolTest::SetUp();
     two_ = theme2("<Desktop_background Color=\"0x336699\"/><Background_image Source=\"xxx.gif\"/>");
-    write(u"theme3g/title.gif"_s, test::tinyGif({128, 23}, {0, 0, 128, 23}, 1));
+    write(u"theme3g/title.gif"_s, tinyGif({128, 23}, {0, 0, 128, 23}, 1));
     threeG_ = theme3G(
         "<Title_image Source=\"title.gif\"/><Title Color=\"0x0000FF\"/>"
         "<Desktop_background Color=\"0x336699\"/><Standby_operatorname_text Color=\"0xFFFFFF\"/>"
