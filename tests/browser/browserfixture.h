@@ -9,7 +9,7 @@
 #include "shell/state.h"
 #include "support/scripteddialogs.h"
 #include "support/stillworld.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 #include <QAction>

@@ -9,7 +9,7 @@
 #include "forms/picturebox.h"
 #include "preview/modapigraphics.h"
 #include "support/scripteddialogs.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 #include <QApplication>

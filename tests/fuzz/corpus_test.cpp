@@ -7,13 +7,12 @@
 #include <QFile>
 
 namespace quillane {
-namespace {
 
-using namespace Qt::StringLiterals;
+namespace {
 
 /// Runs every seed, whole and cut at many places.
 void runSeeds(const QString& name, bool (*holds)(QByteArrayView)) {
-  const QDir folder(QStringLiteral(QUILLANE_FUZZ_CORPUS) + u'/' + name);
+  const QDir folder(QUILLANE_FUZZ_CORPUS "/" + name);
   const QStringList seeds = folder.entryList(QDir::Files);
   ASSERT_FALSE(seeds.isEmpty());
   for (const QString& seed : seeds) {
@@ -26,12 +25,13 @@ void runSeeds(const QString& name, bool (*holds)(QByteArrayView)) {
 }
 
 TEST(FuzzCorpus, ArchiveHolds) {
-  runSeeds(u"archive"_s, archiveHolds);
+  runSeeds("archive", archiveHolds);
 }
 
 TEST(FuzzCorpus, ParseXmlHolds) {
-  runSeeds(u"parsexml"_s, parseXmlHolds);
+  runSeeds("parsexml", parseXmlHolds);
 }
 
 }  // namespace
+
 }  // namespace quillane

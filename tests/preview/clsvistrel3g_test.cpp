@@ -11,6 +11,7 @@
 #include <string_view>
 
 namespace quillane {
+
 namespace {
 
 constexpr QRgb kMargin = 0xFFD4D0C8;
@@ -52,7 +53,7 @@ TEST(BoundedTest, ANumberOutOfItsRangeBecomesAFixedOne) {
   check("3G desktop", three.DesktopIcon, 1, 12, 5);
   EXPECT_FALSE(three.DrawImages);
   two.CalendarDateFormat = QString();
-  EXPECT_EQ(static_cast<const QString&>(two.CalendarDateFormat), QStringLiteral("mmm yyyy"));
+  EXPECT_EQ(static_cast<const QString&>(two.CalendarDateFormat), "mmm yyyy");
 }
 
 TEST_F(Vistrel3GTest, ImagesAreCutToTheirZones) {
@@ -104,7 +105,7 @@ TEST_F(Vistrel3GTest, StatusIconsAndTheSymbolBetweenTheKeys) {
 
 TEST_F(Vistrel3GTest, DesktopCells) {
   const QRect zone(5, 19, 128, 127);
-  engine.DesktopTitles = QStringLiteral("|||||||||||");
+  engine.DesktopTitles = "|||||||||||";
   for (int icon = 1; icon <= 12; ++icon) {
     engine.DesktopIcon = icon;
     engine.DrawDesktop();
@@ -132,14 +133,14 @@ TEST_F(Vistrel3GTest, SoftkeyBoxesAndRightLabels) {
       {"three", desktop, "|MNH|", {7, 148, 61, 15}, {}, {}, {}},
       {"pressed", pressed, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain.translated(1, 1), {}},
   };
-  engine.setColor(gen3g::SoftkeysBackgroundColor, QStringLiteral("0000FF"));
-  engine.setColor(gen3g::SoftkeysBackgroundActivatedColor, QStringLiteral("00FFFF"));
-  engine.setColor(gen3g::SoftkeysTextColor, QStringLiteral("FF0000"));
-  engine.setColor(gen3g::SoftkeysTextShadowColor, QStringLiteral("00FF00"));
+  engine.setColor(gen3g::SoftkeysBackgroundColor, "0000FF");
+  engine.setColor(gen3g::SoftkeysBackgroundActivatedColor, "00FFFF");
+  engine.setColor(gen3g::SoftkeysTextColor, "FF0000");
+  engine.setColor(gen3g::SoftkeysTextShadowColor, "00FF00");
   for (const auto& row : table) {
-    const QString labels = QString::fromUtf8(row.labels);
+    const QString labels = QString(row.labels);
     engine.StandbySoftkeyText = engine.SoftkeysSoftkeyText = labels;
-    engine.DesktopSoftkeyText = labels.isEmpty() ? QStringLiteral(" ") : labels;
+    engine.DesktopSoftkeyText = labels.isEmpty() ? " " : labels;
     row.draw();
     const QImage& image = surface.image();
     const bool isPressed = row.name == std::string_view("pressed");
@@ -164,38 +165,39 @@ TEST_F(Vistrel3GTest, EveryRowRollsTheDiceAnew) {
 TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
   const auto fault = [&](auto draw) { return faultNumberOf([&] { (engine.*draw)(); }); };
   const auto softkeys = [&](int i) { return faultNumberOf([&] { engine.DrawSoftkeys(i); }); };
-  engine.StandbySoftkeyText = QStringLiteral("Calls");
+  engine.StandbySoftkeyText = "Calls";
   EXPECT_EQ(fault(&clsVistrel3G::DrawStandby), 9);
   EXPECT_EQ(pixel(80, 148), 0xFFBDBDBD) << "the right box is there";
   const QRect gap(60, 151, 20, 11);
   EXPECT_EQ(part(gap), iconsOn(kGround, {}).copy(gap)) << "the symbol is not";
 
-  engine.DesktopTitles = QStringLiteral("1|2|3|4");
+  engine.DesktopTitles = "1|2|3|4";
   EXPECT_EQ(fault(&clsVistrel3G::DrawDesktop), 9);
   EXPECT_EQ(pixel(7, 148), kMargin) << "no soft keys";
 
-  engine.SoftkeysMenuText1 = QStringLiteral("a|b|c|d|e");
+  engine.SoftkeysMenuText1 = "a|b|c|d|e";
   EXPECT_EQ(softkeys(0), 9);
   EXPECT_EQ(softkeys(1), 0);
   EXPECT_EQ(softkeys(2), 9);
 
-  engine.setImage(gen3g::TitleImage, path(QStringLiteral("none.gif")));
+  engine.setImage(gen3g::TitleImage, path("none.gif"));
   EXPECT_EQ(softkeys(1), 53);
   EXPECT_EQ(pixel(5, 18), kGround);
   EXPECT_EQ(pixel(5, 19), kMargin);
-  engine.setImage(gen3g::TitleImage, write(QStringLiteral("rubbish.gif"), "no picture"));
+  engine.setImage(gen3g::TitleImage, write("rubbish.gif", "no picture"));
   EXPECT_EQ(softkeys(1), 481);
 
-  engine.setColor(gen3g::BackgroundColor, QStringLiteral("green"));
+  engine.setColor(gen3g::BackgroundColor, "green");
   EXPECT_EQ(fault(&clsVistrel3G::DrawDesktop), 13);
   EXPECT_EQ(pixel(5, 5), 0xFF000000);
 
   clsVistrel3G fresh(world);
   fresh.setSurface(surface);
-  fresh.DesktopTitles = fresh.DesktopSoftkeyText = QStringLiteral("1|2");
+  fresh.DesktopTitles = fresh.DesktopSoftkeyText = "1|2";
   EXPECT_EQ(faultNumberOf([&] { fresh.DrawDesktop(); }), 9) << "DesktopIcon was never set";
   EXPECT_EQ(pixel(7, 148), kMargin);
 }
 
 }  // namespace
+
 }  // namespace quillane

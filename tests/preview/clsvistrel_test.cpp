@@ -8,6 +8,7 @@
 #include "support/tinygif.h"
 
 namespace quillane {
+
 namespace {
 
 constexpr QRgb kMargin = 0xFFD4D0C8;
@@ -18,8 +19,8 @@ const QRect kScreen(5, 5, 101, 80);
 class VistrelTest : public EngineTest<clsVistrel> {
  protected:
   VistrelTest() : EngineTest(Surface::kSize2) {
-    engine.setColor(gen2::BackgroundColor, QStringLiteral("102030"));
-    engine.setColor(gen2::DesktopBackgroundColor, QStringLiteral("405060"));
+    engine.setColor(gen2::BackgroundColor, "102030");
+    engine.setColor(gen2::DesktopBackgroundColor, "405060");
   }
 
   bool shows(QRgb color) const { return !boundsOf(surface.image(), color, kScreen).isNull(); }
@@ -40,25 +41,25 @@ class VistrelTest : public EngineTest<clsVistrel> {
 TEST_F(VistrelTest, AStepThatFailsKeepsTheFormerPicture) {
   PaintSteps steps(surface);
   steps.load(map({3, 3}));
-  steps.load(path(QStringLiteral("none.bmp")));
+  steps.load(path("none.bmp"));
   steps.icon(9999, 5, 5);
   EXPECT_EQ(pixel(7, 6), qRgb(2, 1, 77));
 }
 
 TEST_F(VistrelTest, DefaultsReplaceTheThemeAndKeepThePhone) {
   ThemeValues theme(Generation::Two);
-  theme.setImage(gen2::BackgroundImage, QStringLiteral("/back.gif"));
-  theme.setColor(gen2::TitleColor, QStringLiteral("123456"));
+  theme.setImage(gen2::BackgroundImage, "/back.gif");
+  theme.setColor(gen2::TitleColor, "123456");
   engine.takeTheme(theme);
   EXPECT_EQ(engine.StandbyType, 1);
-  engine.OperatorName = QStringLiteral("World");
-  engine.PopupPaddingLeftTop = QStringLiteral("9 9");
+  engine.OperatorName = "World";
+  engine.PopupPaddingLeftTop = "9 9";
   engine.DefaultColors();
   EXPECT_EQ(engine.StandbyType, 0);
   EXPECT_EQ(engine.image(gen2::BackgroundImage), QString());
-  EXPECT_EQ(engine.color(gen2::TitleColor), QStringLiteral("0000FF"));
-  EXPECT_EQ(engine.PopupPaddingLeftTop, QStringLiteral("3 5"));
-  EXPECT_EQ(engine.OperatorName, QStringLiteral("World"));
+  EXPECT_EQ(engine.color(gen2::TitleColor), "0000FF");
+  EXPECT_EQ(engine.PopupPaddingLeftTop, "3 5");
+  EXPECT_EQ(engine.OperatorName, "World");
 }
 
 TEST_F(VistrelTest, StatusIcons) {
@@ -138,7 +139,7 @@ TEST_F(VistrelTest, ThroughAScreenImageShowsItsFillOrTheClearedSurface) {
                                      {{50, 100}, true},
                                      {{200, 100}, false},
                                      {{200, 60}, true}}) {
-    const QString file = write(QStringLiteral("clear.gif"), tinyGif(size, {{}, size}, 1, 1));
+    const QString file = write("clear.gif", tinyGif(size, {{}, size}, 1, 1));
     background(file);
     engine.DrawStandby();
     EXPECT_EQ(pixel(5, 60), filled ? kFill : kMargin) << size.width();
@@ -149,10 +150,10 @@ TEST_F(VistrelTest, ThroughAScreenImageShowsItsFillOrTheClearedSurface) {
 }
 
 TEST_F(VistrelTest, StandbyTypeDecidesImageAndOutlines) {
-  engine.OperatorName = QStringLiteral("World");
-  engine.setColor(gen2::StandbyOperatorNameOutlineColor, QStringLiteral("FF0000"));
-  engine.setColor(gen2::StandbyOperatorNameColor, QStringLiteral("00FF00"));
-  engine.setColor(gen2::TextColor, QStringLiteral("0000FF"));
+  engine.OperatorName = "World";
+  engine.setColor(gen2::StandbyOperatorNameOutlineColor, "FF0000");
+  engine.setColor(gen2::StandbyOperatorNameColor, "00FF00");
+  engine.setColor(gen2::TextColor, "0000FF");
   background(map({101, 80}));
   for (const int type : {0, 1, 2}) {
     engine.StandbyType = type;
@@ -165,16 +166,16 @@ TEST_F(VistrelTest, StandbyTypeDecidesImageAndOutlines) {
 }
 
 TEST_F(VistrelTest, FailingStepsAreSkipped) {
-  engine.OperatorName = QStringLiteral("World");
-  background(path(QStringLiteral("none.gif")));
-  engine.setColor(gen2::StandbyOperatorNameOutlineColor, QStringLiteral("00FF00"));
-  engine.setColor(gen2::StandbyOperatorNameColor, QStringLiteral("nocolr"));
+  engine.OperatorName = "World";
+  background(path("none.gif"));
+  engine.setColor(gen2::StandbyOperatorNameOutlineColor, "00FF00");
+  engine.setColor(gen2::StandbyOperatorNameColor, "nocolr");
   const struct {
     const char* color;
     QRgb ground;
   } table[] = {{"102030", kFill}, {"12345G", kMargin}, {"FF", 0xFFFF0000}};
   for (const auto& row : table) {
-    engine.setColor(gen2::BackgroundColor, QString::fromUtf8(row.color));
+    engine.setColor(gen2::BackgroundColor, row.color);
     engine.DrawStandby();
     EXPECT_EQ(pixel(20, 50), row.ground) << row.color;
     EXPECT_TRUE(shows(0xFF00FF00)) << row.color;
@@ -184,4 +185,5 @@ TEST_F(VistrelTest, FailingStepsAreSkipped) {
 }
 
 }  // namespace
+
 }  // namespace quillane

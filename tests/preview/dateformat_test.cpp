@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 namespace quillane {
+
 namespace {
 
 const QDateTime kMorning{QDate(2003, 6, 4), QTime(9, 5, 7)};
@@ -48,15 +49,15 @@ TEST(DateFormatTest, Tokens) {
                {"w ww", kNight, "4 53"},
                {"w ww", kLastWeek, "1 54"}};
   for (const auto& row : table)
-    EXPECT_EQ(formatDate(row.time, QString::fromUtf8(row.pattern), QLocale::c()).toStdString(),
-              row.text)
+    EXPECT_EQ(formatDate(row.time, row.pattern, QLocale::c()).toStdString(), row.text)
         << row.pattern;
 }
 
 TEST(DateFormatTest, ShortNamesHaveNoFinalPoint) {
   const QLocale german(QLocale::German, QLocale::Germany);
-  EXPECT_EQ(formatDate(kMorning, QStringLiteral("ddd dd.mmm"), german).toStdString(), "Mi 04.Juni");
+  EXPECT_EQ(formatDate(kMorning, "ddd dd.mmm", german).toStdString(), "Mi 04.Juni");
 }
 
 }  // namespace
+
 }  // namespace quillane

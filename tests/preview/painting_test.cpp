@@ -11,6 +11,7 @@
 #include <algorithm>
 
 namespace quillane {
+
 namespace {
 
 using testing::ElementsAre;
@@ -84,7 +85,7 @@ TEST(PaintingTest, BordersKeepNoneOneOrAllOfTheMargin) {
 }
 
 FontSpec tahomaBold(int alignment = AlignLeft) {
-  return {QStringLiteral("Tahoma"), alignment, true, 8, 0};
+  return {"Tahoma", alignment, true, 8, 0};
 }
 
 /// A text painted on a surface of its own from the top left corner.
@@ -99,7 +100,7 @@ TEST(PaintingTest, TheSurfaceMeasuresInItsOwnFont) {
   for (const auto& [points, height] : {std::pair{7, 13}, {8, 13}, {9, 16}}) {
     surface.setFontSize(points);
     EXPECT_EQ(surface.TextHeight(QString()), height);
-    EXPECT_EQ(surface.TextHeight(QStringLiteral("a\r\nb\n")), 3 * height);
+    EXPECT_EQ(surface.TextHeight("a\r\nb\n"), 3 * height);
   }
 }
 
@@ -107,9 +108,7 @@ TEST(PaintingTest, AmpersandsAndLineEnds) {
   const char* const same[][2] = {
       {"a&", "a"}, {"a\rb", "a\nb"}, {"a\r\nb", "a\nb"}, {"a&\nb", "a\nb"}, {"a&&&&", "a&&&&&"}};
   for (const auto& [one, other] : same)
-    EXPECT_EQ(painted(QString::fromUtf8(one), tahomaBold(), {24, 30}),
-              painted(QString::fromUtf8(other), tahomaBold(), {24, 30}))
-        << one;
+    EXPECT_EQ(painted(one, tahomaBold(), {24, 30}), painted(other, tahomaBold(), {24, 30})) << one;
 }
 
 TEST(PaintingTest, AlignmentAndClip) {
@@ -133,8 +132,7 @@ TEST(PaintingTest, AlignmentAndClip) {
   };
   for (const auto& row : table) {
     Surface wide(QSize(30, 13));
-    DrawTextRect(wide, QString::fromUtf8(row.text), row.left, 0, 13, row.width,
-                 tahomaBold(row.alignment));
+    DrawTextRect(wide, row.text, row.left, 0, 13, row.width, tahomaBold(row.alignment));
     const QRect bounds = boundsOf(wide.image(), 0xFF000000);
     EXPECT_EQ(bounds.left(), row.first) << row.name;
     EXPECT_EQ(bounds.right(), row.last) << row.name;
@@ -142,13 +140,13 @@ TEST(PaintingTest, AlignmentAndClip) {
 
   // Cut at the rectangle's top and bottom: rows 3 to 10 hold the letter.
   Surface surface(QSize(8, 6));
-  DrawTextRect(surface, QStringLiteral("A"), 0, -5, 9, 8, tahomaBold());
+  DrawTextRect(surface, "A", 0, -5, 9, 8, tahomaBold());
   EXPECT_THAT(lettersOf(surface.image()),
               ElementsAre(".##.##..", ".##.##..", ".##.##..", "#######.", "........", "........"));
 }
 
 TEST(PaintingTest, MissingGlyphIsTheFacesBox) {
-  const FontSpec font{QStringLiteral("Tahoma"), AlignLeft, false, 8, 0};
+  const FontSpec font{"Tahoma", AlignLeft, false, 8, 0};
   const Rows box = painted(QString(QChar(0x4E00)), font, QSize(11, 13));
   EXPECT_EQ(box[3], ".#########.");
   EXPECT_EQ(box[5], ".#.......#.");
@@ -158,19 +156,20 @@ TEST(PaintingTest, MissingGlyphIsTheFacesBox) {
 TEST(PaintingTest, WithoutTheFacesAnotherServesAndALineTellsSoOnce) {
   testing::internal::CaptureStderr();
   Faces faces([](const QString&) { return QString(); });
-  faces.face(QStringLiteral("Tahoma"), 8, false).glyph(U'A');
-  SizedFace& sans = faces.face(QStringLiteral("MS Sans Serif"), 8, true);
+  faces.face("Tahoma", 8, false).glyph(U'A');
+  SizedFace& sans = faces.face("MS Sans Serif", 8, true);
   EXPECT_GT(sans.glyph(U'A').advance, 0);
   const std::string told = testing::internal::GetCapturedStderr();
   EXPECT_NE(told.find("fonts-wine"), std::string::npos);
   EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1);
 
-  EXPECT_EQ(findFaceFile(QStringLiteral("no such face.ttf")), QString());
-  Faces broken([](const QString&) { return QStringLiteral("/dev/null"); });
+  EXPECT_EQ(findFaceFile("no such face.ttf"), QString());
+  Faces broken([](const QString&) { return "/dev/null"; });
   testing::internal::CaptureStderr();
-  broken.face(QStringLiteral("Tahoma"), 8, true).glyph(U'A');
+  broken.face("Tahoma", 8, true).glyph(U'A');
   EXPECT_NE(testing::internal::GetCapturedStderr(), "");
 }
 
 }  // namespace
+
 }  // namespace quillane

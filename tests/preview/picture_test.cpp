@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/picture.h"
 
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 #include "support/tinygif.h"
 
@@ -10,12 +10,13 @@
 #include <QRegion>
 
 namespace quillane {
+
 namespace {
 
 class PictureTest : public TempFolder {
  protected:
   QImage load(const char* name, const QByteArray& bytes) const {
-    return LoadPicture(write(QString::fromUtf8(name), bytes)).image();
+    return LoadPicture(write(name, bytes)).image();
   }
 };
 
@@ -92,7 +93,7 @@ TEST_F(PictureTest, FilesAreReadByContent) {
     EXPECT_EQ(fault, row.size.isValid() ? 0 : 481) << row.name;
     EXPECT_EQ(size, row.size) << row.name;
   }
-  EXPECT_EQ(faultNumberOf([&] { LoadPicture(path(QStringLiteral("none.gif"))); }), 53);
+  EXPECT_EQ(faultNumberOf([&] { LoadPicture(path("none.gif")); }), 53);
   EXPECT_EQ(faultNumberOf([&] { LoadPicture(path()); }), 53);
 
   // The first of two frames; the second one begins behind header and palette.
@@ -152,4 +153,5 @@ TEST_F(PictureTest, NumberedIcons) {
 }
 
 }  // namespace
+
 }  // namespace quillane

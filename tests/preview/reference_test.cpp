@@ -16,6 +16,7 @@
 #include <tuple>
 
 namespace quillane {
+
 namespace {
 
 /// Compares a picture with `reference/<name>/sheet.png` pixel by pixel. What differs is left in the
@@ -27,7 +28,7 @@ void expectReference(const QString& name, const QImage& actual) {
     QDir().mkpath(QFileInfo(path).path());
     EXPECT_TRUE(image.save(path)) << path.toStdString();
   };
-  const QString path = QStringLiteral(REFERENCE_FOLDER "/%1/sheet.png").arg(name);
+  const QString path = REFERENCE_FOLDER "/" + name + "/sheet.png";
   if (qEnvironmentVariableIsSet("QUILLANE_RENEW_REFERENCES")) return save(actual, path);
 
   const QImage expected = QImage(path).convertToFormat(QImage::Format_RGB32);
@@ -39,9 +40,9 @@ void expectReference(const QString& name, const QImage& actual) {
       if (actual.pixel(x, y) == expected.pixel(x, y)) mask.setPixel(x, y, 0);
   const QRect box = boundsOf(mask, 0xFFFFFFFF);
   if (expected.size() == actual.size() && box.isNull()) return;
-  const QString leftovers = QStringLiteral(DIFFERENCE_FOLDER "/") + name;
-  save(actual, leftovers + QStringLiteral("-actual.png"));
-  save(mask, leftovers + QStringLiteral("-mask.png"));
+  const QString leftovers = DIFFERENCE_FOLDER "/" + name;
+  save(actual, leftovers + "-actual.png");
+  save(mask, leftovers + "-mask.png");
   ADD_FAILURE() << name.toStdString() << " differs from its reference of " << expected.width()
                 << "x" << expected.height() << " within " << box.width() << "x" << box.height()
                 << " from (" << box.left() << "," << box.top() << "); see "
@@ -57,18 +58,17 @@ TEST(ReferenceTest, Typefaces) {
   Surface sheet(QSize(360, 8 * 94), 0xFFFFFF);
   int top = 2;
   for (const auto& [name, bold, points] : fonts) {
-    QString text = QStringLiteral("&Fun && &Games &gjpqy&&\n");
+    QString text = "&Fun && &Games &gjpqy&&\n";
     for (char16_t character = 0x21; character < 0x100; ++character) {
       if (character >= 0x7F && character < 0xA0) continue;
       text += QChar(character == u'&' ? u'+' : character);
       if (character == 0x4A || character == 0x6F || character == 0xBF || character == 0xDF)
-        text += QLatin1Char('\n');
+        text += '\n';
     }
-    DrawTextRect(sheet, text, 3, top, 92, 354,
-                 {QString::fromUtf8(name), AlignLeft, bold, points, 0});
+    DrawTextRect(sheet, text, 3, top, 92, 354, {name, AlignLeft, bold, points, 0});
     top += 94;
   }
-  expectReference(QStringLiteral("typefaces"), sheet.image());
+  expectReference("typefaces", sheet.image());
 }
 
 /// All screens of a theme side by side, four in a row.
@@ -109,14 +109,14 @@ TEST(ReferenceTest, Themes) {
   const auto foldersIn = [](const QString& path) {
     return QDir(path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
   };
-  const QDir themes(QStringLiteral(THEMES_FOLDER));
-  QStringList cases{QStringLiteral("typefaces")};
+  const QDir themes(QString(THEMES_FOLDER));
+  QStringList cases{"typefaces"};
   const auto expectSheet = [&](const QString& name, const QImage& sheet) {
     expectReference(name, sheet);
     cases.append(name);
   };
-  expectSheet(QStringLiteral("defaults 2"), contactSheet(ThemeValues(Generation::Two)));
-  expectSheet(QStringLiteral("defaults 3g"), contactSheet(ThemeValues(Generation::ThreeG)));
+  expectSheet("defaults 2", contactSheet(ThemeValues(Generation::Two)));
+  expectSheet("defaults 3g", contactSheet(ThemeValues(Generation::ThreeG)));
 
   for (const QString& name : foldersIn(themes.path())) {
     ImageStates states{};
@@ -130,15 +130,15 @@ TEST(ReferenceTest, Themes) {
     if (values.schema().generation == Generation::Two) continue;
 
     const QImage imagesOff = contactSheet(values, false);
-    if (name == QStringLiteral("Polar Night"))
-      expectSheet(QStringLiteral("Polar Night, images off"), imagesOff);
+    if (name == "Polar Night") expectSheet("Polar Night, images off", imagesOff);
     for (int slot = 0; slot < static_cast<int>(values.schema().images.size()); ++slot)
       values.setImage(slot, QString());
     EXPECT_EQ(contactSheet(values), imagesOff) << name.toStdString();
   }
-  for (const QString& name : foldersIn(QStringLiteral(REFERENCE_FOLDER)))
+  for (const QString& name : foldersIn(REFERENCE_FOLDER))
     EXPECT_TRUE(cases.contains(name)) << name.toStdString() << " is a reference of nothing";
 }
 
 }  // namespace
+
 }  // namespace quillane

@@ -3,7 +3,7 @@
 #include "shell/files.h"
 
 #include "shell/listing.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 #include <QFile>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/ini.h"
 
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 namespace quillane {
@@ -29,8 +29,8 @@ TEST_F(Ini, ReadsAsTheFileStands) {
       {"commented out", "[Menu]\n;Titles=1\n", "standard"},
       {"empty value", "[Menu]\nTitles=\n", ""},
       {"no section", "Titles=1\n", "standard"},
-      {"8-bit text", "[Menu]\nTitles=\xe9\x80\n", QString::fromUtf8("é€")},
-      {"too long", "[Menu]\nTitles=" + QByteArray(300, 'x'), QString(254, QLatin1Char('x'))},
+      {"8-bit text", "[Menu]\nTitles=\xe9\x80\n", "é€"},
+      {"too long", "[Menu]\nTitles=" + QByteArray(300, 'x'), QString(254, 'x')},
       {"not a text at all", QByteArray("\0\xff[\0=]", 6), "standard"},
   };
   for (const Case& row : cases)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/instance.h"
 
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 #include <QLockFile>

@@ -5,7 +5,7 @@
 #include "shell/settings.h"
 #include "shell/state.h"
 #include "support/stillworld.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 #include <QFile>

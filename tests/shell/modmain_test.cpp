@@ -6,7 +6,7 @@
 #include "shell/settings.h"
 #include "shell/state.h"
 #include "support/stillworld.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 namespace quillane {
@@ -21,10 +21,10 @@ class NotedScreen : public StartScreen {
 
   QSize screenSize() override { return size; }
   void stop(const QString& text) override { notes << text; }
-  void showSplash() override { notes << QStringLiteral("splash"); }
+  void showSplash() override { notes << "splash"; }
   void setStatus(const QString& text) override { notes << text; }
-  void loadBrowser() override { notes << QStringLiteral("browser"); }
-  void unloadSplash() override { notes << QStringLiteral("no splash"); }
+  void loadBrowser() override { notes << "browser"; }
+  void unloadSplash() override { notes << "no splash"; }
 };
 
 class Start : public TempFolder {

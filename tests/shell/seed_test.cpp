@@ -3,7 +3,7 @@
 #include "shell/seed.h"
 
 #include "shell/places.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 namespace quillane {

@@ -5,7 +5,7 @@
 #include "preview/picture.h"
 #include "preview/surface.h"
 #include "support/stillworld.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 
 #include <map>
 #include <string>
@@ -68,7 +68,7 @@ class EngineTest : public TempFolder {
   QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
   QImage part(const QRect& rect) const { return surface.image().copy(rect); }
   QString save(const QImage& image) const {
-    QString file = path(QStringLiteral("image.bmp"));
+    QString file = path("image.bmp");
     EXPECT_TRUE(image.save(file));
     return file;
   }

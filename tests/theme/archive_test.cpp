@@ -3,8 +3,8 @@
 #include "theme/archive.h"
 
 #include "support/hindrance.h"
-#include "support/tar_builder.h"
-#include "support/temp_folder.h"
+#include "support/tarbuilder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 #include "theme/archive_reader.h"
 
@@ -14,9 +14,8 @@
 #include <clocale>
 
 namespace quillane {
-namespace {
 
-using namespace Qt::StringLiterals;
+namespace {
 
 constexpr qint64 kMiB = 1 << 20;
 
@@ -165,7 +164,7 @@ TEST(ReadArchive, TakesRegularMembersOnly) {
   tar.header({.name = "unknown", .size = 1, .type = 'Z'}).padded("z").end();
   const Reading reading = readBytes(tar.bytes());
   EXPECT_EQ(reading.code, Success);
-  EXPECT_EQ(reading.names, QStringList({u"a"_s, u"contiguous"_s, u"unknown"_s}));
+  EXPECT_EQ(reading.names, QStringList({"a", "contiguous", "unknown"}));
 }
 
 TEST(ReadArchive, ReadsNamesOfEveryForm) {
@@ -175,30 +174,30 @@ TEST(ReadArchive, ReadsNamesOfEveryForm) {
     QByteArray name;
     QString taken;
   } rows[] = {
-      {"plain", "Back.GIF", u"Back.GIF"_s},
-      {"absolute", "/etc/passwd", u"passwd"_s},
-      {"above", "../../up.gif", u"up.gif"_s},
-      {"drive", "C:\\x\\y.gif", u"y.gif"_s},
-      {"both separators", "a\\b/c\\..\\d", u"d"_s},
-      {"empty", "", u""_s},
-      {"folder", "a/", u""_s},
-      {"itself", "./.", u""_s},
-      {"parent", "..\\..", u""_s},
-      {"three points", "...", u"..."_s},
-      {"NUL", QByteArray("a\0b", 3), u""_s},
-      {"UTF-8", "\xC3\xA4.gif", u"\u00E4.gif"_s},
-      {"Windows-1252", "\xE4\x80.gif", u"\u00E4\u20AC.gif"_s},
-      {"UTF-8 cut at its end", "a\xC3", u"a\u00C3"_s},
-      {"byte order mark", "\xEF\xBB\xBFz", u"\uFEFFz"_s},
+      {"plain", "Back.GIF", "Back.GIF"},
+      {"absolute", "/etc/passwd", "passwd"},
+      {"above", "../../up.gif", "up.gif"},
+      {"drive", "C:\\x\\y.gif", "y.gif"},
+      {"both separators", "a\\b/c\\..\\d", "d"},
+      {"empty", "", ""},
+      {"folder", "a/", ""},
+      {"itself", "./.", ""},
+      {"parent", "..\\..", ""},
+      {"three points", "...", "..."},
+      {"NUL", QByteArray("a\0b", 3), ""},
+      {"UTF-8", "\xC3\xA4.gif", "\u00E4.gif"},
+      {"Windows-1252", "\xE4\x80.gif", "\u00E4\u20AC.gif"},
+      {"UTF-8 cut at its end", "a\xC3", "a\u00C3"},
+      {"byte order mark", "\xEF\xBB\xBFz", QString(QChar(0xFEFF)) + 'z'},
       {"overlong UTF-8 separator",
        "a\xC0\xAF"
        "b",
-       u"a\u00C0\u00AFb"_s},
-      {"blanks and controls", " \t\n", u" \t\n"_s},
-      {"255 bytes", longName, QString::fromLatin1(longName)},
-      {"256 bytes", 'n' + longName, u""_s},
-      {"256 bytes on disk only", QByteArray(128, '\xE4'), u""_s},
-      {"long folder", QByteArray(300, 'f') + "/a", u"a"_s},
+       "a\u00C0\u00AFb"},
+      {"blanks and controls", " \t\n", " \t\n"},
+      {"255 bytes", longName, longName},
+      {"256 bytes", 'n' + longName, ""},
+      {"256 bytes on disk only", QByteArray(128, '\xE4'), ""},
+      {"long folder", QByteArray(300, 'f') + "/a", "a"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
@@ -218,14 +217,14 @@ TEST(ReadArchive, SeesANameInRecordsUpToItsNul) {
   const QByteArray record = TarBuilder::paxRecord("path", QByteArray("a\0/../b", 7));
   const Reading reading = readBytes(TarBuilder().pax(record).file("other", "x").end().bytes());
   EXPECT_EQ(reading.code, Success);
-  EXPECT_EQ(reading.names, QStringList(u"a"_s));
+  EXPECT_EQ(reading.names, QStringList("a"));
 }
 
 TEST(ReadArchive, GoesOnAfterAMalformedExtension) {
   const Reading reading =
       readBytes(TarBuilder().pax("no record at all").file("a", "a").file("b", "b").end().bytes());
   EXPECT_EQ(reading.code, Success);
-  EXPECT_TRUE(reading.names.contains(u"b"_s));
+  EXPECT_TRUE(reading.names.contains("b"));
 }
 
 TEST(ReadArchive, ExpandsSparseMembersWithinTheirSize) {
@@ -237,8 +236,8 @@ TEST(ReadArchive, ExpandsSparseMembersWithinTheirSize) {
   };
   const Reading reading = readBytes(sparse("20", "10,4"));
   EXPECT_EQ(reading.code, Success);
-  EXPECT_EQ(reading.files[u"s"_s], QByteArray(10, '\0') + "data" + QByteArray(6, '\0'));
-  EXPECT_EQ(reading.files[u"t"_s], "t");
+  EXPECT_EQ(reading.files["s"], QByteArray(10, '\0') + "data" + QByteArray(6, '\0'));
+  EXPECT_EQ(reading.files["t"], "t");
   EXPECT_EQ(readBytes(sparse("16777217", "10,4")).code, Damaged);
   EXPECT_EQ(readBytes(sparse("12", "10,4")).code, Damaged);
 }
@@ -274,15 +273,15 @@ TEST(ReadArchive, TellsWhenTheDeviceFails) {
 class Archive : public TempFolder {
  protected:
   int extract(const TarBuilder& tar) {
-    return extractArchive(write(u"theme.thm"_s, tar.bytes()), makeFolder(u"out"_s)).code;
+    return extractArchive(write("theme.thm", tar.bytes()), makeFolder("out")).code;
   }
 };
 
 TEST_F(Archive, ExtractsFilesWithTheirTimeAndCommonRights) {
   EXPECT_EQ(extract(twoFiles().end()), Success);
-  EXPECT_EQ(read(u"out/a.xml"_s), "<a/>");
-  EXPECT_EQ(read(u"out/b.gif"_s), QByteArray(600, 'b'));
-  const QFileInfo info(path(u"out/a.xml"_s));
+  EXPECT_EQ(read("out/a.xml"), "<a/>");
+  EXPECT_EQ(read("out/b.gif"), QByteArray(600, 'b'));
+  const QFileInfo info(path("out/a.xml"));
   EXPECT_EQ(info.lastModified().toSecsSinceEpoch(), TarBuilder::kTime);
   EXPECT_EQ(info.permissions() & ~(QFile::ReadUser | QFile::WriteUser),
             QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
@@ -290,60 +289,58 @@ TEST_F(Archive, ExtractsFilesWithTheirTimeAndCommonRights) {
 
 TEST_F(Archive, TakesTheLaterOfTwoMembers) {
   EXPECT_EQ(extract(TarBuilder().file("x/a", "longer").file("y\\a", "new").end()), Success);
-  EXPECT_EQ(read(u"out/a"_s), "new");
-  const ArchiveResult list = listArchive(path(u"theme.thm"_s));
+  EXPECT_EQ(read("out/a"), "new");
+  const ArchiveResult list = listArchive(path("theme.thm"));
   ASSERT_EQ(list.members.size(), 2);
   EXPECT_EQ(list.members[0].size, 6);
-  EXPECT_EQ(list.members[1].name, u"a"_s);
+  EXPECT_EQ(list.members[1].name, "a");
 }
 
 TEST_F(Archive, NeverWritesThroughALink) {
-  const QString outside = write(u"outside"_s, "kept");
-  makeFolder(u"out"_s);
-  makeFolder(u"elsewhere"_s);
-  ASSERT_TRUE(QFile::link(outside, path(u"out/a.gif"_s)));
-  ASSERT_TRUE(QFile::link(path(u"nowhere"_s), path(u"out/b.gif"_s)));
-  ASSERT_TRUE(QFile::link(path(u"elsewhere"_s), path(u"out/dir"_s)));
-  EXPECT_EQ(
-      extract(TarBuilder()
-                  .file("a.gif", "new a")
-                  .file("b.gif", "new b")
-                  .header({.name = "dir2", .type = '2', .link = path(u"elsewhere"_s).toUtf8()})
-                  .file("dir/c.gif", "new c")
-                  .file("dir2/d.gif", "new d")
-                  .file("../escape.gif", "new e")
-                  .end()),
-      Success);
-  EXPECT_EQ(read(u"outside"_s), "kept");
-  EXPECT_EQ(listOf(u"elsewhere"_s), QStringList());
-  EXPECT_FALSE(QFileInfo::exists(path(u"nowhere"_s)));
-  EXPECT_FALSE(QFileInfo::exists(path(u"escape.gif"_s)));
-  EXPECT_EQ(read(u"out/a.gif"_s), "new a");
-  EXPECT_FALSE(QFileInfo(path(u"out/a.gif"_s)).isSymLink());
-  EXPECT_EQ(listOf(u"out"_s), QStringList({u"a.gif"_s, u"b.gif"_s, u"c.gif"_s, u"d.gif"_s, u"dir"_s,
-                                           u"escape.gif"_s}));
+  const QString outside = write("outside", "kept");
+  makeFolder("out");
+  makeFolder("elsewhere");
+  ASSERT_TRUE(QFile::link(outside, path("out/a.gif")));
+  ASSERT_TRUE(QFile::link(path("nowhere"), path("out/b.gif")));
+  ASSERT_TRUE(QFile::link(path("elsewhere"), path("out/dir")));
+  EXPECT_EQ(extract(TarBuilder()
+                        .file("a.gif", "new a")
+                        .file("b.gif", "new b")
+                        .header({.name = "dir2", .type = '2', .link = path("elsewhere").toUtf8()})
+                        .file("dir/c.gif", "new c")
+                        .file("dir2/d.gif", "new d")
+                        .file("../escape.gif", "new e")
+                        .end()),
+            Success);
+  EXPECT_EQ(read("outside"), "kept");
+  EXPECT_EQ(listOf("elsewhere"), QStringList());
+  EXPECT_FALSE(QFileInfo::exists(path("nowhere")));
+  EXPECT_FALSE(QFileInfo::exists(path("escape.gif")));
+  EXPECT_EQ(read("out/a.gif"), "new a");
+  EXPECT_FALSE(QFileInfo(path("out/a.gif")).isSymLink());
+  EXPECT_EQ(listOf("out"), QStringList({"a.gif", "b.gif", "c.gif", "d.gif", "dir", "escape.gif"}));
 }
 
 TEST_F(Archive, KeepsWhatCameBeforeAnError) {
   EXPECT_EQ(extract(twoFiles().cut(kSecondBytes + 100)), UnexpectedEnd);
-  EXPECT_EQ(read(u"out/a.xml"_s), "<a/>");
+  EXPECT_EQ(read("out/a.xml"), "<a/>");
   EXPECT_EQ(extract(TarBuilder().file("c", "c").header({.name = "d.xml", .size = 2 * kMiB})),
             Damaged);
-  EXPECT_EQ(read(u"out/c"_s), "c");
-  EXPECT_FALSE(QFileInfo::exists(path(u"out/d.xml"_s)));
+  EXPECT_EQ(read("out/c"), "c");
+  EXPECT_FALSE(QFileInfo::exists(path("out/d.xml")));
 }
 
 TEST_F(Archive, TellsWhatCannotBeReadOrCreated) {
-  const QString theme = write(u"theme.thm"_s, twoFiles().bytes());
-  EXPECT_EQ(listArchive(path(u"missing.thm"_s)).code, NotReadable);
+  const QString theme = write("theme.thm", twoFiles().bytes());
+  EXPECT_EQ(listArchive(path("missing.thm")).code, NotReadable);
   EXPECT_EQ(listArchive(path()).code, NotReadable);
-  EXPECT_EQ(extractArchive(theme, path(u"no folder"_s)).code, CreateFailed);
-  makeFolder(u"out/b.gif"_s);
-  EXPECT_EQ(extractArchive(theme, path(u"out"_s)).code, CreateFailed);
+  EXPECT_EQ(extractArchive(theme, path("no folder")).code, CreateFailed);
+  makeFolder("out/b.gif");
+  EXPECT_EQ(extractArchive(theme, path("out")).code, CreateFailed);
 }
 
 TEST_F(Archive, TellsWhatItMayNotRead) {
-  const QString theme = write(u"theme.thm"_s, twoFiles().bytes());
+  const QString theme = write("theme.thm", twoFiles().bytes());
   ASSERT_TRUE(QFile::setPermissions(theme, QFile::WriteOwner));
   const WithoutPrivilege nobody;
   EXPECT_EQ(listArchive(theme).code, NotReadable);
@@ -351,25 +348,26 @@ TEST_F(Archive, TellsWhatItMayNotRead) {
 
 TEST_F(Archive, TellsWhatItCannotWrite) {
   const QByteArray tar = TarBuilder().file("a", QByteArray(8 * kMiB, 'a')).end().bytes();
-  const QString theme = write(u"theme.thm"_s, tar);
+  const QString theme = write("theme.thm", tar);
   const FileSizeLimit limit(kMiB);
-  EXPECT_EQ(extractArchive(theme, makeFolder(u"out"_s)).code, WriteFailed);
+  EXPECT_EQ(extractArchive(theme, makeFolder("out")).code, WriteFailed);
 }
 
 TEST_F(Archive, TellsWhenTheDiskIsFull) {
-  const SmallDisk disk(makeFolder(u"out"_s));
+  const SmallDisk disk(makeFolder("out"));
   if (!disk.isMounted()) GTEST_SKIP() << "No right to mount a small file system.";
   EXPECT_EQ(extract(TarBuilder().file("a", QByteArray(kMiB, 'a')).end()), DiskFull);
 }
 
 TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
-  EXPECT_EQ(archiveErrorText(Success, u"a.thm"_s), u""_s);
-  EXPECT_EQ(archiveErrorText(Damaged, u"a%1.thm"_s), u"Some files in \"a%1.thm\" are corrupted."_s);
+  EXPECT_EQ(archiveErrorText(Success, "a.thm"), "");
+  EXPECT_EQ(archiveErrorText(Damaged, "a%1.thm"), "Some files in \"a%1.thm\" are corrupted.");
   EXPECT_EQ(
-      archiveErrorText(NotReadable, u"a.thm"_s),
-      u"File \"a.thm\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list."_s);
-  EXPECT_EQ(archiveErrorText(99, u"a.thm"_s), u"UnTAR operation error 99"_s);
+      archiveErrorText(NotReadable, "a.thm"),
+      "File \"a.thm\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list.");
+  EXPECT_EQ(archiveErrorText(99, "a.thm"), "UnTAR operation error 99");
 }
 
 }  // namespace
+
 }  // namespace quillane

@@ -5,9 +5,8 @@
 #include "support/text.h"
 
 namespace quillane {
-namespace {
 
-using namespace Qt::StringLiterals;
+namespace {
 
 TEST(Color, TurnsAValueIntoDigits) {
   const struct {
@@ -16,7 +15,7 @@ TEST(Color, TurnsAValueIntoDigits) {
   } rows[] = {{"255", "FF0000"},   {"0", "000000"},         {"16711680", "0000FF"},
               {"33023", "FF8000"}, {"305419896", "563412"}, {"-1", "FFFFFF"}};
   for (const auto& row : rows)
-    EXPECT_EQ(ColorToHtml(QString::fromLatin1(row.value)), QString::fromLatin1(row.html));
+    EXPECT_EQ(ColorToHtml(row.value), row.html);
 }
 
 TEST(Color, TurnsDigitsIntoAValueAndPadsThemInPlace) {
@@ -30,14 +29,14 @@ TEST(Color, TurnsDigitsIntoAValueAndPadsThemInPlace) {
               {"ff80", "ff8000", "&H0080ff"},
               {"12345678", "12345678", "&H563412"}};
   for (const auto& row : rows) {
-    QString html = QString::fromLatin1(row.html);
-    EXPECT_EQ(HtmlToColor(html), QString::fromLatin1(row.value));
-    EXPECT_EQ(html, QString::fromLatin1(row.padded));
+    QString html = row.html;
+    EXPECT_EQ(HtmlToColor(html), row.value);
+    EXPECT_EQ(html, row.padded);
   }
 }
 
 TEST(Color, KnowsThePartsOfAValue) {
-  const ColorValue value = colorValueOf(u"a1B2c3"_s);
+  const ColorValue value = colorValueOf("a1B2c3");
   EXPECT_EQ(value, 0xC3B2A1U);
   EXPECT_EQ(RedOf(value | 0xFF000000U), 0xA1);
   EXPECT_EQ(GreenOf(value | 0xFF000000U), 0xB2);
@@ -47,12 +46,13 @@ TEST(Color, KnowsThePartsOfAValue) {
 TEST(Color, RefusesWhatIsNoNumber) {
   constexpr int badNumber = static_cast<int>(FaultNumber::BadNumber);
   for (const char* const html : {"GG0000", "0x1234", "+12345", " 12345", "12345 ", "-1"}) {
-    EXPECT_EQ(faultNumberOf([&] { colorValueOf(QString::fromLatin1(html)); }), badNumber) << html;
+    EXPECT_EQ(faultNumberOf([&] { colorValueOf(html); }), badNumber) << html;
   }
   for (const char* const value : {"", "red", "1.5", "4294967296", "-2147483649"}) {
-    EXPECT_EQ(faultNumberOf([&] { ColorToHtml(QString::fromLatin1(value)); }), badNumber) << value;
+    EXPECT_EQ(faultNumberOf([&] { ColorToHtml(value); }), badNumber) << value;
   }
 }
 
 }  // namespace
+
 }  // namespace quillane

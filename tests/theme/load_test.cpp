@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "theme/load.h"
 
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 
 namespace quillane {
-namespace {
 
-using namespace Qt::StringLiterals;
+namespace {
 
 /// A theme's text with every element: colours count up from 000001, images are "<element>.gif".
 QByteArray fullTheme(const ThemeSchema& schema) {
@@ -38,9 +37,9 @@ class Load : public TempFolder {
 TEST_F(Load, FillsEveryValueOfBothGenerations) {
   for (const Generation generation : {Generation::Two, Generation::ThreeG}) {
     const ThemeSchema& schema = schemaOf(generation);
-    write(u"theme.xml"_s, fullTheme(schema));
+    write("theme.xml", fullTheme(schema));
     for (const ImageElement& image : schema.images)
-      write(QString(image.element) + u".gif"_s, "GIF");
+      write(QString(image.element) + ".gif", "GIF");
     states.fill(SlotState::None);
     const LoadedTheme theme = load();
     ASSERT_EQ(&theme.values.schema(), &schema);
@@ -48,7 +47,7 @@ TEST_F(Load, FillsEveryValueOfBothGenerations) {
       EXPECT_EQ(theme.values.color(at).toInt(nullptr, 16), at + 1);
     for (std::size_t at = 0; at < schema.images.size(); ++at) {
       const ImageElement& image = schema.images[at];
-      EXPECT_EQ(theme.values.image(static_cast<int>(at)), path(QString(image.element) + u".gif"_s));
+      EXPECT_EQ(theme.values.image(static_cast<int>(at)), path(QString(image.element) + ".gif"));
       EXPECT_EQ(states.at(static_cast<std::size_t>(image.state)), SlotState::Found);
     }
     EXPECT_EQ(static_cast<std::size_t>(std::count(states.begin(), states.end(), SlotState::Found)),
@@ -58,33 +57,32 @@ TEST_F(Load, FillsEveryValueOfBothGenerations) {
 }
 
 TEST_F(Load, WarnsInLoadOrder) {
-  write(u"theme.xml"_s, fullTheme(schemaOf(Generation::Two)));
-  EXPECT_EQ(
-      load().warnings,
-      QStringList({u"Background image defined, file \"Background_image.gif\" not found."_s,
-                   u"Desktop image defined, file \"Desktop_background_image.gif\" not found."_s,
-                   u"Title small image defined, file \"Title_image_small.gif\" not found."_s,
-                   u"Title medium image defined, file \"Title_image_medium.gif\" not found."_s,
-                   u"Title large image defined, file \"Title_image_large.gif\" not found."_s,
-                   u"Title asian image defined, file \"Title_image_asian.gif\" not found."_s}));
+  write("theme.xml", fullTheme(schemaOf(Generation::Two)));
+  EXPECT_EQ(load().warnings,
+            QStringList({"Background image defined, file \"Background_image.gif\" not found.",
+                         "Desktop image defined, file \"Desktop_background_image.gif\" not found.",
+                         "Title small image defined, file \"Title_image_small.gif\" not found.",
+                         "Title medium image defined, file \"Title_image_medium.gif\" not found.",
+                         "Title large image defined, file \"Title_image_large.gif\" not found.",
+                         "Title asian image defined, file \"Title_image_asian.gif\" not found."}));
   EXPECT_EQ(states[5], SlotState::Missing);
 
-  write(u"theme.xml"_s, fullTheme(schemaOf(Generation::ThreeG)));
+  write("theme.xml", fullTheme(schemaOf(Generation::ThreeG)));
   QStringList firstWords;
   for (const QString& warning : load().warnings)
-    firstWords += warning.section(u" image"_s, 0, 0);
+    firstWords += warning.section(" image", 0, 0);
   EXPECT_EQ(firstWords,
-            QStringList({u"Wallpaper"_s, u"Desktop background"_s, u"Statusbar background"_s,
-                         u"Softkeys background"_s, u"Title"_s, u"Highlight"_s,
-                         u"General background"_s, u"Morelist title"_s, u"Morelist highlight"_s}));
+            QStringList({"Wallpaper", "Desktop background", "Statusbar background",
+                         "Softkeys background", "Title", "Highlight", "General background",
+                         "Morelist title", "Morelist highlight"}));
 }
 
 TEST_F(Load, TakesAnImageValueForOneFileOfTheFolder) {
-  write(u"a.gif"_s, "GIF");
-  write(u"sub/b.gif"_s, "GIF");
-  write(u"\u00E4.gif"_s, "GIF");
-  write(u"[1].gif"_s, "GIF");
-  ASSERT_TRUE(QFile::link(path(u"a.gif"_s), path(u"link.gif"_s)));
+  write("a.gif", "GIF");
+  write("sub/b.gif", "GIF");
+  write("\u00E4.gif", "GIF");
+  write("[1].gif", "GIF");
+  ASSERT_TRUE(QFile::link(path("a.gif"), path("link.gif")));
   const struct {
     QByteArray value;
     SlotState state;
@@ -93,10 +91,10 @@ TEST_F(Load, TakesAnImageValueForOneFileOfTheFolder) {
       {"", SlotState::None},
       {"xxx.gif", SlotState::None},
       {"XXX.gif", SlotState::Missing},
-      {"a.gif", SlotState::Found, u"a.gif"_s},
+      {"a.gif", SlotState::Found, "a.gif"},
       {"A.GIF", SlotState::Missing},
-      {"\xE4.gif", SlotState::Found, u"\u00E4.gif"_s},
-      {"[1].gif", SlotState::Found, u"[1].gif"_s},
+      {"\xE4.gif", SlotState::Found, "\u00E4.gif"},
+      {"[1].gif", SlotState::Found, "[1].gif"},
       {"sub/b.gif", SlotState::Missing},
       {"sub\\b.gif", SlotState::Missing},
       {"./a.gif", SlotState::Missing},
@@ -110,7 +108,7 @@ TEST_F(Load, TakesAnImageValueForOneFileOfTheFolder) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.value.toPercentEncoding().constData());
-    write(u"theme.xml"_s, "<Background_image Source=\"" + row.value + "\"/>");
+    write("theme.xml", "<Background_image Source=\"" + row.value + "\"/>");
     const LoadedTheme theme = load();
     EXPECT_EQ(states[0], row.state);
     EXPECT_EQ(theme.values.image(gen2::BackgroundImage),
@@ -120,38 +118,37 @@ TEST_F(Load, TakesAnImageValueForOneFileOfTheFolder) {
 }
 
 TEST_F(Load, LeavesAbsentElementsToTheGeneration) {
-  write(u"theme.xml"_s, "text without elements");
+  write("theme.xml", "text without elements");
   LoadedTheme theme = load();
   EXPECT_EQ(theme.values.schema().generation, Generation::Two);
-  EXPECT_EQ(theme.values.color(gen2::TitleColor), u"0000FF"_s);
+  EXPECT_EQ(theme.values.color(gen2::TitleColor), "0000FF");
   states[7] = SlotState::Found;
   states[4] = SlotState::Missing;
-  write(u"theme.xml"_s, "<!-- Sony_Ericsson_theme -->");
+  write("theme.xml", "<!-- Sony_Ericsson_theme -->");
   theme = load();
   EXPECT_EQ(theme.values.schema().generation, Generation::ThreeG);
-  EXPECT_EQ(theme.values.color(gen3g::TitleColor), u""_s);
+  EXPECT_EQ(theme.values.color(gen3g::TitleColor), "");
   EXPECT_EQ(states[7], SlotState::None);
   EXPECT_EQ(states[4], SlotState::Missing) << "a slot of the other generation";
 }
 
 TEST_F(Load, TakesTheFirstXmlInNameOrder) {
   EXPECT_FALSE(loadTheme(path(), states, log.reporter()).has_value());
-  makeFolder(u"0.xml"_s);
-  write(u"a.xml.bak"_s, "");
-  EXPECT_EQ(findThemeXml(path()), u""_s);
+  makeFolder("0.xml");
+  write("a.xml.bak", "");
+  EXPECT_EQ(findThemeXml(path()), "");
   for (const char* const name : {"c.xml", "B.XML", "b.xml", "a.Xml", ".xml"}) {
-    write(QString::fromLatin1(name), "");
-    const QString expected =
-        QByteArrayView(name) == "b.xml" ? u"B.XML"_s : QString::fromLatin1(name);
+    write(name, "");
+    const QString expected = QByteArrayView(name) == "b.xml" ? "B.XML" : name;
     EXPECT_EQ(findThemeXml(path() + u'/'), path(expected));
   }
 }
 
 TEST_F(Load, ReadsTheTextInTheCodePageOneTagALine) {
-  const QString file = write(u"theme.xml"_s, "<a><Theme_name Name=\"\x80\x81\"/></a>");
+  const QString file = write("theme.xml", "<a><Theme_name Name=\"\x80\x81\"/></a>");
   const LoadedTheme theme = load();
   EXPECT_EQ(theme.xmlPath, file);
-  EXPECT_EQ(theme.xml, u"<a>\r\n<Theme_name Name=\"\u20AC\u0081\"/>\r\n</a>"_s);
+  EXPECT_EQ(theme.xml, "<a>\r\n<Theme_name Name=\"\u20AC\u0081\"/>\r\n</a>");
 }
 
 TEST(NormaliseThemeXml, BreaksTagsAndRepairsDoubleReturns) {
@@ -169,9 +166,9 @@ TEST(NormaliseThemeXml, BreaksTagsAndRepairsDoubleReturns) {
       {"empty", "", ""},
   };
   for (const auto& row : rows)
-    EXPECT_EQ(normaliseThemeXml(QString::fromLatin1(row.xml)), QString::fromLatin1(row.normal))
-        << row.what;
+    EXPECT_EQ(normaliseThemeXml(QString(row.xml)), QString(row.normal)) << row.what;
 }
 
 }  // namespace
+
 }  // namespace quillane

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/hindrance.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 #include "theme/archive.h"
 #include "theme/values.h"
@@ -12,9 +12,8 @@
 #include <sys/stat.h>
 
 namespace quillane {
-namespace {
 
-using namespace Qt::StringLiterals;
+namespace {
 
 class Pack : public TempFolder {
  protected:
@@ -36,13 +35,13 @@ class Pack : public TempFolder {
     return names;
   }
   int packNumber(const QStringList& files) {
-    return faultNumberOf([&] { packArchive(path(u"t.thm"_s), files); });
+    return faultNumberOf([&] { packArchive(path("t.thm"), files); });
   }
 };
 
 TEST_F(Pack, WritesPlainHeadersAndTwoEndBlocks) {
-  packArchive(path(u"t.thm"_s), {makeFile(u"Sub/New Theme.XML"_s, "<a/>")});
-  const QByteArray tar = read(u"t.thm"_s);
+  packArchive(path("t.thm"), {makeFile("Sub/New Theme.XML", "<a/>")});
+  const QByteArray tar = read("t.thm");
   ASSERT_EQ(tar.size(), 4 * 512);
   const struct {
     const char* what;
@@ -66,44 +65,43 @@ TEST_F(Pack, WritesPlainHeadersAndTwoEndBlocks) {
 }
 
 TEST_F(Pack, KeepsOrderAndRepeatsAndTellsTheSameTwice) {
-  const QString b = makeFile(u"B.gif"_s, QByteArray(512, 'b'));
-  const QString a = makeFile(u"\u00C4.gif"_s, "");
-  packArchive(path(u"1.thm"_s), {b, a, b});
-  packArchive(path(u"2.thm"_s), {b, a, b});
-  EXPECT_EQ(membersOf(u"1.thm"_s), QStringList({u"b.gif"_s, u"\u00E4.gif"_s, u"b.gif"_s}));
-  EXPECT_EQ(read(u"1.thm"_s), read(u"2.thm"_s));
-  EXPECT_EQ(read(u"1.thm"_s).mid(1024, 7), QByteArray("\xE4.gif\0\0", 7));
-  packArchive(path(u"2.thm"_s), {});
-  EXPECT_EQ(read(u"2.thm"_s), QByteArray(1024, '\0'));
+  const QString b = makeFile("B.gif", QByteArray(512, 'b'));
+  const QString a = makeFile("\u00C4.gif", "");
+  packArchive(path("1.thm"), {b, a, b});
+  packArchive(path("2.thm"), {b, a, b});
+  EXPECT_EQ(membersOf("1.thm"), QStringList({"b.gif", "\u00E4.gif", "b.gif"}));
+  EXPECT_EQ(read("1.thm"), read("2.thm"));
+  EXPECT_EQ(read("1.thm").mid(1024, 7), QByteArray("\xE4.gif\0\0", 7));
+  packArchive(path("2.thm"), {});
+  EXPECT_EQ(read("2.thm"), QByteArray(1024, '\0'));
 }
 
 TEST_F(Pack, GivesRecordsToTheMemberThatNeedsThemAlone) {
-  const QString name100 = QString(96, u'x') + u".gif"_s;
-  const QString name101 = QString(97, u'y') + u".gif"_s;
-  const QString umlauts = QString(100, u'\u00E4') + u".gif"_s;
-  const QString old = makeFile(u"old.gif"_s, "old");
+  const QString name100 = QString(96, u'x') + ".gif";
+  const QString name101 = QString(97, u'y') + ".gif";
+  const QString umlauts = QString(100, u'\u00E4') + ".gif";
+  const QString old = makeFile("old.gif", "old");
   setTime(old, -1'000'000);
-  packArchive(path(u"t.thm"_s), {makeFile(name100, "1"), makeFile(name101, "2"), old,
-                                 makeFile(umlauts, "3"), makeFile(u"last.gif"_s, "4")});
-  EXPECT_EQ(membersOf(u"t.thm"_s),
-            QStringList({name100, name101, u"old.gif"_s, umlauts, u"last.gif"_s}));
-  EXPECT_EQ(read(u"t.thm"_s).count("ustar"), 5 + 3);
-  extractArchive(path(u"t.thm"_s), makeFolder(u"out"_s));
-  EXPECT_EQ(QFileInfo(path(u"out/old.gif"_s)).lastModified().toSecsSinceEpoch(), -1'000'000);
-  EXPECT_EQ(read(u"out/"_s + umlauts), "3");
+  packArchive(path("t.thm"), {makeFile(name100, "1"), makeFile(name101, "2"), old,
+                              makeFile(umlauts, "3"), makeFile("last.gif", "4")});
+  EXPECT_EQ(membersOf("t.thm"), QStringList({name100, name101, "old.gif", umlauts, "last.gif"}));
+  EXPECT_EQ(read("t.thm").count("ustar"), 5 + 3);
+  extractArchive(path("t.thm"), makeFolder("out"));
+  EXPECT_EQ(QFileInfo(path("out/old.gif")).lastModified().toSecsSinceEpoch(), -1'000'000);
+  EXPECT_EQ(read("out/" + umlauts), "3");
 }
 
 TEST_F(Pack, WritesAQuestionMarkForASignOutsideTheCodePage) {
-  packArchive(path(u"t.thm"_s), {makeFile(u"\u0416.gif"_s, "x")});
-  EXPECT_EQ(membersOf(u"t.thm"_s), QStringList({u"?.gif"_s}));
+  packArchive(path("t.thm"), {makeFile("\u0416.gif", "x")});
+  EXPECT_EQ(membersOf("t.thm"), QStringList({"?.gif"}));
 }
 
 TEST_F(Pack, LeavesTheOldArchiveWhereItFails) {
-  const QString good = makeFile(u"good.gif"_s, QByteArray(4096, 'g'));
-  const QString secret = makeFile(u"secret.gif"_s, "x");
+  const QString good = makeFile("good.gif", QByteArray(4096, 'g'));
+  const QString secret = makeFile("secret.gif", "x");
   ASSERT_TRUE(QFile::setPermissions(secret, QFile::WriteOwner));
-  write(u"t.thm"_s, "old");
-  EXPECT_EQ(packNumber({good, path(u"missing.gif"_s)}), 53);
+  write("t.thm", "old");
+  EXPECT_EQ(packNumber({good, path("missing.gif")}), 53);
   EXPECT_EQ(packNumber({good, path()}), 53);
   {
     const WithoutPrivilege nobody;
@@ -113,52 +111,52 @@ TEST_F(Pack, LeavesTheOldArchiveWhereItFails) {
     const FileSizeLimit limit(1024);
     EXPECT_EQ(packNumber({good}), 57);
   }
-  EXPECT_EQ(read(u"t.thm"_s), "old");
-  EXPECT_EQ(listOf(u""_s), QStringList({u"good.gif"_s, u"secret.gif"_s, u"t.thm"_s}));
-  EXPECT_EQ(faultNumberOf([&] { packArchive(path(u"none/t.thm"_s), {good}); }), 53);
+  EXPECT_EQ(read("t.thm"), "old");
+  EXPECT_EQ(listOf(""), QStringList({"good.gif", "secret.gif", "t.thm"}));
+  EXPECT_EQ(faultNumberOf([&] { packArchive(path("none/t.thm"), {good}); }), 53);
 }
 
 TEST_F(Pack, TellsWhenTheDiskIsFull) {
-  const SmallDisk disk(makeFolder(u"small"_s));
+  const SmallDisk disk(makeFolder("small"));
   if (!disk.isMounted()) GTEST_SKIP() << "No right to mount a small file system.";
-  const QString large = makeFile(u"large.gif"_s, QByteArray(1 << 20, 'l'));
-  EXPECT_EQ(faultNumberOf([&] { packArchive(path(u"small/t.thm"_s), {large}); }), 61);
-  EXPECT_EQ(listOf(u"small"_s), QStringList());
+  const QString large = makeFile("large.gif", QByteArray(1 << 20, 'l'));
+  EXPECT_EQ(faultNumberOf([&] { packArchive(path("small/t.thm"), {large}); }), 61);
+  EXPECT_EQ(listOf("small"), QStringList());
 }
 
 TEST_F(Pack, ListsNamesAndSizes) {
-  const QStringList files{makeFile(u"New Theme.XML"_s, "12345"), makeFile(u"\u00DC.gif"_s, "")};
+  const QStringList files{makeFile("New Theme.XML", "12345"), makeFile("\u00DC.gif", "")};
   const QByteArray index = "new theme.xml <5>\r\n\xFC.gif <0>";
   EXPECT_EQ(themeIndex(files, IndexEnd::Bare), index);
   EXPECT_EQ(themeIndex(files, IndexEnd::LineEnd), index + "\r\n");
   EXPECT_EQ(themeIndex({}, IndexEnd::LineEnd), "");
-  EXPECT_EQ(faultNumberOf([&] { themeIndex({path(u"missing"_s)}, IndexEnd::Bare); }), 53);
+  EXPECT_EQ(faultNumberOf([&] { themeIndex({path("missing")}, IndexEnd::Bare); }), 53);
 }
 
 TEST_F(Pack, LeavesAPipeInItsPlace) {
-  const QString pipe = path(u"pipe.thm"_s);
+  const QString pipe = path("pipe.thm");
   ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
-  EXPECT_NE(faultNumberOf([&] { packArchive(pipe, {write(u"a.xml"_s, "x")}); }), 0);
+  EXPECT_NE(faultNumberOf([&] { packArchive(pipe, {write("a.xml", "x")}); }), 0);
   EXPECT_TRUE(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
 }
 
 TEST(ThemeImages, FollowTheTableAndLeaveOutSharedOnesOfGeneration2) {
   ThemeValues two(Generation::Two);
-  two.setImage(gen2::BackgroundImage, u"/t/back.gif"_s);
-  two.setImage(gen2::DesktopBackgroundImage, u"/T/Back.gif"_s);
-  two.setImage(gen2::TitleImageLarge, u"/t/large.gif"_s);
-  two.setImage(gen2::TitleImageAsian, u"/t/asian.gif"_s);
-  EXPECT_EQ(themeImages(two),
-            (QStringList{u"/t/back.gif"_s, u"/t/large.gif"_s, u"/t/asian.gif"_s}));
-  two.setImage(gen2::TitleImageAsian, u"/t/LARGE.gif"_s);
-  EXPECT_EQ(themeImages(two), (QStringList{u"/t/back.gif"_s, u"/t/large.gif"_s}));
+  two.setImage(gen2::BackgroundImage, "/t/back.gif");
+  two.setImage(gen2::DesktopBackgroundImage, "/T/Back.gif");
+  two.setImage(gen2::TitleImageLarge, "/t/large.gif");
+  two.setImage(gen2::TitleImageAsian, "/t/asian.gif");
+  EXPECT_EQ(themeImages(two), (QStringList{"/t/back.gif", "/t/large.gif", "/t/asian.gif"}));
+  two.setImage(gen2::TitleImageAsian, "/t/LARGE.gif");
+  EXPECT_EQ(themeImages(two), (QStringList{"/t/back.gif", "/t/large.gif"}));
 
   ThemeValues threeG(Generation::ThreeG);
-  threeG.setImage(gen3g::DesktopBackgroundImage, u"/t/a.gif"_s);
-  threeG.setImage(gen3g::WallpaperImage, u"/t/a.gif"_s);
-  threeG.setImage(gen3g::StatusbarBackgroundImage, u"/t/s.gif"_s);
-  EXPECT_EQ(themeImages(threeG), (QStringList{u"/t/s.gif"_s, u"/t/a.gif"_s, u"/t/a.gif"_s}));
+  threeG.setImage(gen3g::DesktopBackgroundImage, "/t/a.gif");
+  threeG.setImage(gen3g::WallpaperImage, "/t/a.gif");
+  threeG.setImage(gen3g::StatusbarBackgroundImage, "/t/s.gif");
+  EXPECT_EQ(themeImages(threeG), (QStringList{"/t/s.gif", "/t/a.gif", "/t/a.gif"}));
 }
 
 }  // namespace
+
 }  // namespace quillane

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/tar_builder.h"
+#include "support/tarbuilder.h"
 #include "theme/archive.h"
 #include "thmtool/toolrun.h"
 
 namespace quillane {
+
 namespace {
 
 class ArchiveVerbs : public ToolTest {
@@ -18,70 +19,69 @@ class ArchiveVerbs : public ToolTest {
 };
 
 TEST_F(ArchiveVerbs, PackKeepsTheOrderOfTheFiles) {
-  const QStringList files{write(u"b/Zebra.GIF"_s, "zebra"), write(u"a/my.xml"_s, "<x/>")};
-  EXPECT_EQ(runTool(QStringList{u"pack"_s, path(u"New.thm"_s)} + files), kQuiet);
-  EXPECT_EQ(membersOf(path(u"New.thm"_s)), (QStringList{u"zebra.gif"_s, u"my.xml"_s}));
+  const QStringList files{write("b/Zebra.GIF", "zebra"), write("a/my.xml", "<x/>")};
+  EXPECT_EQ(runTool(QStringList{"pack", path("New.thm")} + files), kQuiet);
+  EXPECT_EQ(membersOf(path("New.thm")), (QStringList{"zebra.gif", "my.xml"}));
 }
 
 TEST_F(ArchiveVerbs, PackPutsTheIndexFirst) {
-  const QStringList files{write(u"My.xml"_s, "<x/>"), write(u"Back.gif"_s, "0123456789")};
-  EXPECT_EQ(runTool(QStringList{u"pack"_s, u"--index"_s, path(u"New.thm"_s)} + files), kQuiet);
-  EXPECT_EQ(membersOf(path(u"New.thm"_s)),
-            (QStringList{u"index.txt"_s, u"my.xml"_s, u"back.gif"_s}));
-  EXPECT_EQ(runTool({u"unpack"_s, path(u"New.thm"_s), path(u"out"_s)}), kQuiet);
-  EXPECT_EQ(read(u"out/index.txt"_s), QByteArray("my.xml <4>\r\nback.gif <10>\r\n"));
+  const QStringList files{write("My.xml", "<x/>"), write("Back.gif", "0123456789")};
+  EXPECT_EQ(runTool(QStringList{"pack", "--index", path("New.thm")} + files), kQuiet);
+  EXPECT_EQ(membersOf(path("New.thm")), (QStringList{"index.txt", "my.xml", "back.gif"}));
+  EXPECT_EQ(runTool({"unpack", path("New.thm"), path("out")}), kQuiet);
+  EXPECT_EQ(read("out/index.txt"), QByteArray("my.xml <4>\r\nback.gif <10>\r\n"));
 }
 
 TEST_F(ArchiveVerbs, PackLeavesTheOldThemeWhenAFileIsMissing) {
-  const QString theme = write(u"Old.thm"_s, "old");
-  const QString file = write(u"my.xml"_s, "<x/>");
-  const QString missing = path(u"back.gif"_s);
+  const QString theme = write("Old.thm", "old");
+  const QString file = write("my.xml", "<x/>");
+  const QString missing = path("back.gif");
   const std::string complaint = "thmtool pack: File \"" + missing.toStdString() + "\" not found.\n";
-  for (const QStringList& options : {QStringList{}, QStringList{u"--index"_s}}) {
-    EXPECT_EQ(runTool(QStringList{u"pack"_s, theme, file, missing} + options),
+  for (const QStringList& options : {QStringList{}, QStringList{"--index"}}) {
+    EXPECT_EQ(runTool(QStringList{"pack", theme, file, missing} + options),
               (ToolRun{NotDone, "", complaint}));
-    EXPECT_EQ(read(u"Old.thm"_s), QByteArray("old"));
-    EXPECT_EQ(listOf(QString()), (QStringList{u"Old.thm"_s, u"my.xml"_s}));
+    EXPECT_EQ(read("Old.thm"), QByteArray("old"));
+    EXPECT_EQ(listOf(QString()), (QStringList{"Old.thm", "my.xml"}));
   }
 }
 
 TEST_F(ArchiveVerbs, PackToNowhere) {
-  const QString file = write(u"my.xml"_s, "<x/>");
+  const QString file = write("my.xml", "<x/>");
   const std::string complaint =
-      "thmtool pack: Folder \"" + path(u"none"_s).toStdString() + "\" not found.\n";
-  EXPECT_EQ(runTool({u"pack"_s, path(u"none/New.thm"_s), file}), (ToolRun{NotDone, "", complaint}));
+      "thmtool pack: Folder \"" + path("none").toStdString() + "\" not found.\n";
+  EXPECT_EQ(runTool({"pack", path("none/New.thm"), file}), (ToolRun{NotDone, "", complaint}));
 }
 
 TEST_F(ArchiveVerbs, UnpackAddsToItsFolder) {
-  write(u"theme2/a.gif"_s, "new");
+  write("theme2/a.gif", "new");
   const QString theme = theme2("<Title Color=\"0x112233\"/>");
-  write(u"out/deeper/a.gif"_s, "old");
-  write(u"out/deeper/other.txt"_s, "kept");
-  EXPECT_EQ(runTool({u"unpack"_s, theme, path(u"out/deeper"_s)}), kQuiet);
-  EXPECT_EQ(listOf(u"out/deeper"_s), (QStringList{u"a.gif"_s, u"other.txt"_s, u"theme.xml"_s}));
-  EXPECT_EQ(read(u"out/deeper/a.gif"_s), QByteArray("new"));
+  write("out/deeper/a.gif", "old");
+  write("out/deeper/other.txt", "kept");
+  EXPECT_EQ(runTool({"unpack", theme, path("out/deeper")}), kQuiet);
+  EXPECT_EQ(listOf("out/deeper"), (QStringList{"a.gif", "other.txt", "theme.xml"}));
+  EXPECT_EQ(read("out/deeper/a.gif"), QByteArray("new"));
 }
 
 TEST_F(ArchiveVerbs, UnpackNeedsAFolder) {
   const QString theme = theme2("");
-  const QString file = write(u"file"_s, "");
+  const QString file = write("file", "");
   const std::string complaint = "thmtool unpack: The folder \"" + file.toStdString() +
                                 "/below\" cannot be made; choose one where you may write.\n";
-  EXPECT_EQ(runTool({u"unpack"_s, theme, file + u"/below"_s}), (ToolRun{NotDone, "", complaint}));
+  EXPECT_EQ(runTool({"unpack", theme, file + "/below"}), (ToolRun{NotDone, "", complaint}));
 }
 
 TEST_F(ArchiveVerbs, UnpackKeepsWhatCameBeforeTheDamage) {
   TarBuilder tar;
   tar.file("a.xml", "<x/>").header({.name = "b.gif", .badChecksum = true}).end();
-  const QString theme = write(u"bad.thm"_s, tar.bytes());
-  EXPECT_EQ(runTool({u"unpack"_s, theme, path(u"out"_s)}),
+  const QString theme = write("bad.thm", tar.bytes());
+  EXPECT_EQ(runTool({"unpack", theme, path("out")}),
             (ToolRun{NotDone, "", "thmtool unpack: \"" + theme.toStdString() + "\": Bad CRC.\n"}));
-  EXPECT_EQ(listOf(u"out"_s), QStringList{u"a.xml"_s});
+  EXPECT_EQ(listOf("out"), QStringList{"a.xml"});
 }
 
 TEST_F(ArchiveVerbs, XmlIsOneTagALineInItsOwnBytes) {
   const QString theme = theme2("<Theme_name Name=\"Caf\xE9\x81\"/><Title Color=\"0x1\"/>");
-  EXPECT_EQ(runTool({u"xml"_s, theme}),
+  EXPECT_EQ(runTool({"xml", theme}),
             (ToolRun{AllWell,
                      "<Ericsson_theme>\r\n<Theme_name Name=\"Caf\xE9\x81\"/>\r\n"
                      "<Title Color=\"0x1\"/>\r\n</Ericsson_theme>",
@@ -105,21 +105,22 @@ TEST_F(ArchiveVerbs, UnreadableThemesAreNamed) {
        "This theme does not contain an XML file."},
   };
   for (const BadTheme& row : rows) {
-    const QString theme = write(QString::fromLatin1(row.name), row.bytes);
+    const QString theme = write(QString(row.name), row.bytes);
     const std::string complaint = "\"" + theme.toStdString() + "\": " + row.complaint + "\n";
-    EXPECT_EQ(runTool({u"xml"_s, theme}), (ToolRun{NotDone, "", "thmtool xml: " + complaint}));
-    EXPECT_EQ(runTool({u"info"_s, theme}), (ToolRun{NotDone, "", "thmtool info: " + complaint}));
-    EXPECT_EQ(runTool({u"render"_s, theme, u"--out"_s, path(u"out"_s)}),
+    EXPECT_EQ(runTool({"xml", theme}), (ToolRun{NotDone, "", "thmtool xml: " + complaint}));
+    EXPECT_EQ(runTool({"info", theme}), (ToolRun{NotDone, "", "thmtool info: " + complaint}));
+    EXPECT_EQ(runTool({"render", theme, "--out", path("out")}),
               (ToolRun{NotDone, "", "thmtool render: " + complaint}));
-    EXPECT_FALSE(QFile::exists(path(u"out"_s)));
+    EXPECT_FALSE(QFile::exists(path("out")));
   }
 }
 
 TEST_F(ArchiveVerbs, MissingThemeIsToldInOneLine) {
-  const std::string complaint = "thmtool xml: \"" + path(u"x.thm"_s).toStdString() +
+  const std::string complaint = "thmtool xml: \"" + path("x.thm").toStdString() +
                                 "\": File \"x.thm\" not found or no read permission.\n";
-  EXPECT_EQ(runTool({u"xml"_s, path(u"x.thm"_s)}), (ToolRun{NotDone, "", complaint}));
+  EXPECT_EQ(runTool({"xml", path("x.thm")}), (ToolRun{NotDone, "", complaint}));
 }
 
 }  // namespace
+
 }  // namespace quillane

@@ -5,6 +5,7 @@
 #include <QProcess>
 
 namespace quillane {
+
 namespace {
 
 class Binary : public ToolTest {
@@ -13,9 +14,9 @@ class Binary : public ToolTest {
   static ToolRun runBinary(const QStringList& arguments) {
     QProcess process;
     QProcessEnvironment environment;
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"nonexistent"_s);
+    environment.insert("QT_QPA_PLATFORM", "nonexistent");
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(THMTOOL_BINARY), arguments);
+    process.start(THMTOOL_BINARY, arguments);
     EXPECT_TRUE(process.waitForFinished());
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
@@ -25,17 +26,18 @@ class Binary : public ToolTest {
 
 TEST_F(Binary, NeedsNoDisplayAndNoLocale) {
   const QString theme = theme2("<Title Color=\"0x112233\"/>");
-  const QString foreign = path(u"Émeraude – 翠.thm"_s);
+  const QString foreign = path("Émeraude – 翠.thm");
   ASSERT_TRUE(QFile::copy(theme, foreign));
-  EXPECT_EQ(runBinary({u"info"_s, foreign}), runTool({u"info"_s, foreign}));
-  EXPECT_EQ(runBinary({u"render"_s, foreign, u"--sheet"_s, path(u"ß.png"_s)}), kQuiet);
-  EXPECT_FALSE(image(u"ß.png"_s).isNull());
+  EXPECT_EQ(runBinary({"info", foreign}), runTool({"info", foreign}));
+  EXPECT_EQ(runBinary({"render", foreign, "--sheet", path("ß.png")}), kQuiet);
+  EXPECT_FALSE(image("ß.png").isNull());
 }
 
 TEST_F(Binary, EndsWithTheStatus) {
-  EXPECT_EQ(runBinary({u"xml"_s, path(u"x"_s)}), runTool({u"xml"_s, path(u"x"_s)}));
-  EXPECT_EQ(runBinary({u"nonsense"_s}), runTool({u"nonsense"_s}));
+  EXPECT_EQ(runBinary({"xml", path("x")}), runTool({"xml", path("x")}));
+  EXPECT_EQ(runBinary({"nonsense"}), runTool({"nonsense"}));
 }
 
 }  // namespace
+
 }  // namespace quillane

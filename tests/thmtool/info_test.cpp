@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/tar_builder.h"
+#include "support/tarbuilder.h"
 #include "thmtool/toolrun.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace quillane {
+
 namespace {
 
 class Info : public ToolTest {
@@ -22,11 +23,11 @@ class Info : public ToolTest {
              "<Title_image_large Source=\"xxx.gif\"/>"
              "<Standby_time Color=\"0xabCDef\"/><Title Color=\"0x12\"/></Ericsson_theme>");
     tar.file("back.gif", "1").file("dir/BELL\a.gif", "22").file("back.gif", "333").end();
-    theme_ = write(u"Blue.thm"_s, tar.bytes());
+    theme_ = write("Blue.thm", tar.bytes());
   }
 
   static std::string expected(const char* name) {
-    QFile file(QStringLiteral(EXPECTED_FOLDER "/") + QString::fromLatin1(name));
+    QFile file(QString(EXPECTED_FOLDER "/") + name);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
     return file.readAll().toStdString();
   }
@@ -35,45 +36,44 @@ class Info : public ToolTest {
 };
 
 TEST_F(Info, Json) {
-  EXPECT_EQ(runTool({u"info"_s, theme_, u"--json"_s}),
-            (ToolRun{AllWell, expected("info.json"), ""}));
+  EXPECT_EQ(runTool({"info", theme_, "--json"}), (ToolRun{AllWell, expected("info.json"), ""}));
 }
 
 TEST_F(Info, JsonIsValid) {
-  const ToolRun run = runTool({u"info"_s, u"--json"_s, theme_});
+  const ToolRun run = runTool({"info", "--json", theme_});
   QJsonParseError error;
   const auto json = QJsonDocument::fromJson(QByteArray::fromStdString(run.out), &error).object();
   EXPECT_EQ(error.error, QJsonParseError::NoError) << run.out;
-  EXPECT_EQ(json[u"tags"_s][u"Theme_name"_s].toString(), u"Tea \\ «Time»"_s);
+  EXPECT_EQ(json["tags"]["Theme_name"].toString(), "Tea \\ «Time»");
 }
 
 TEST_F(Info, Text) {
-  EXPECT_EQ(runTool({u"info"_s, theme_}), (ToolRun{AllWell, expected("info.txt"), ""}));
+  EXPECT_EQ(runTool({"info", theme_}), (ToolRun{AllWell, expected("info.txt"), ""}));
 }
 
 TEST_F(Info, KeepsAnEmpty3GColour) {
-  const ToolRun run = runTool({u"info"_s, u"--json"_s, theme3G("<Title Color=\"0xFF0000\"/>")});
+  const ToolRun run = runTool({"info", "--json", theme3G("<Title Color=\"0xFF0000\"/>")});
   const auto json = QJsonDocument::fromJson(QByteArray::fromStdString(run.out)).object();
-  EXPECT_EQ(json[u"generation"_s].toString(), u"3G"_s);
-  EXPECT_EQ(json[u"colours"_s][u"Title"_s].toString(), u"FF0000"_s);
-  EXPECT_TRUE(json[u"colours"_s][u"Background"_s].isString());
-  EXPECT_EQ(json[u"colours"_s][u"Background"_s].toString(), QString());
-  EXPECT_EQ(json[u"colours"_s].toObject().size(), 49);
-  EXPECT_EQ(json[u"images"_s].toObject().size(), 9);
+  EXPECT_EQ(json["generation"].toString(), "3G");
+  EXPECT_EQ(json["colours"]["Title"].toString(), "FF0000");
+  EXPECT_TRUE(json["colours"]["Background"].isString());
+  EXPECT_EQ(json["colours"]["Background"].toString(), QString());
+  EXPECT_EQ(json["colours"].toObject().size(), 49);
+  EXPECT_EQ(json["images"].toObject().size(), 9);
 }
 
 TEST_F(Info, FaultsOfTheTextAreReportedOnce) {
-  const QString theme = pack(u"open"_s, "<Theme_created");
-  const ToolRun run = runTool({u"info"_s, u"--json"_s, theme});
+  const QString theme = pack("open", "<Theme_created");
+  const ToolRun run = runTool({"info", "--json", theme});
   EXPECT_EQ(run.status, AllWell);
   EXPECT_EQ(run.err.find("thmtool info: \"" + theme.toStdString() + "\": "), 0U) << run.err;
   EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
 }
 
 TEST_F(Info, UnreadableThemeIsAnErrorObject) {
-  const QString missing = path(u"x/Green.thm"_s);
+  const QString missing = path("x/Green.thm");
   EXPECT_EQ(
-      runTool({u"info"_s, u"--json"_s, missing}),
+      runTool({"info", "--json", missing}),
       (ToolRun{NotDone,
                "{\n"
                "  \"file\": \"Green.thm\",\n"
@@ -88,8 +88,8 @@ TEST_F(Info, UnreadableThemeIsAnErrorObject) {
 }
 
 TEST_F(Info, ThemeWithoutXmlIsAnErrorObject) {
-  const QString theme = write(u"Bare.thm"_s, TarBuilder().file("a.gif", "x").end().bytes());
-  EXPECT_EQ(runTool({u"info"_s, u"--json"_s, theme}),
+  const QString theme = write("Bare.thm", TarBuilder().file("a.gif", "x").end().bytes());
+  EXPECT_EQ(runTool({"info", "--json", theme}),
             (ToolRun{NotDone,
                      "{\n"
                      "  \"file\": \"Bare.thm\",\n"
@@ -103,4 +103,5 @@ TEST_F(Info, ThemeWithoutXmlIsAnErrorObject) {
 }
 
 }  // namespace
+
 }  // namespace quillane

@@ -5,16 +5,17 @@
 #include <set>
 
 namespace quillane {
+
 namespace {
 
 class Sheet : public ToolTest {
  protected:
   QImage sheet(const QString& theme, const QStringList& words) const {
-    EXPECT_EQ(runTool(QStringList{u"render"_s, theme, u"--sheet"_s, path(u"s.png"_s), u"--now"_s,
-                                  u"2003-06-14 09:41"_s, u"--seed"_s, u"1"_s} +
+    EXPECT_EQ(runTool(QStringList{"render", theme, "--sheet", path("s.png"), "--now",
+                                  "2003-06-14 09:41", "--seed", "1"} +
                       words),
               kQuiet);
-    return image(u"s.png"_s);
+    return image("s.png");
   }
 };
 
@@ -43,11 +44,11 @@ std::set<QRgb> colorsIn(const QImage& picture) {
 
 TEST_F(Sheet, HoldsEachScreenAboveItsCaption) {
   const QString theme = theme2("<Theme_name Name=\"Blue\"/>");
-  const QStringList fixed{u"--now"_s, u"2003-06-14 09:41"_s};
-  runTool(QStringList{u"render"_s, theme, u"--out"_s, path(u"out"_s)} + fixed);
+  const QStringList fixed{"--now", "2003-06-14 09:41"};
+  runTool(QStringList{"render", theme, "--out", path("out")} + fixed);
   const QImage sheet = this->sheet(theme, {});
-  for (const QString& file : listOf(u"out"_s)) {
-    const QImage screen = image(u"out/"_s + file);
+  for (const QString& file : listOf("out")) {
+    const QImage screen = image("out/" + file);
     const auto places = placesOf(screen, sheet);
     ASSERT_EQ(places.size(), 1U) << file.toStdString();
     const QRect below(places.front() + QPoint(0, screen.height() + 2), QSize(screen.width(), 14));
@@ -58,18 +59,18 @@ TEST_F(Sheet, HoldsEachScreenAboveItsCaption) {
 
 TEST_F(Sheet, RowsAreFilledEvenly) {
   const QString theme = theme2("");
-  runTool({u"render"_s, theme, u"--out"_s, path(u"out"_s), u"--screens"_s, u"desktop"_s});
-  const QImage desktop = image(u"out/desktop.png"_s);
+  runTool({"render", theme, "--out", path("out"), "--screens", "desktop"});
+  const QImage desktop = image("out/desktop.png");
   const struct {
     int screens;
     std::size_t columns;
     std::size_t rows;
   } rows[] = {{1, 1, 1}, {5, 5, 1}, {6, 3, 2}, {13, 5, 3}};
   for (const auto& row : rows) {
-    const QStringList ids(row.screens, u"desktop"_s);
+    const QStringList ids(row.screens, "desktop");
     std::set<int> lefts;
     std::set<int> tops;
-    const auto places = placesOf(desktop, sheet(theme, {u"--screens"_s, ids.join(u',')}));
+    const auto places = placesOf(desktop, sheet(theme, {"--screens", ids.join(u',')}));
     for (const QPoint& place : places) {
       lefts.insert(place.x());
       tops.insert(place.y());
@@ -81,24 +82,24 @@ TEST_F(Sheet, RowsAreFilledEvenly) {
 }
 
 TEST_F(Sheet, TitleIsTheThemesNameOrItsFile) {
-  const QStringList one{u"--screens"_s, u"desktop"_s};
-  const QImage named = sheet(pack(u"a"_s, "<Theme_name Name=\"Blue\"/>"), one);
-  EXPECT_EQ(sheet(pack(u"Blue"_s, "<x/>"), one), named);
-  EXPECT_NE(sheet(pack(u"b"_s, "<Theme_name Name=\"Green\"/>"), one), named);
+  const QStringList one{"--screens", "desktop"};
+  const QImage named = sheet(pack("a", "<Theme_name Name=\"Blue\"/>"), one);
+  EXPECT_EQ(sheet(pack("Blue", "<x/>"), one), named);
+  EXPECT_NE(sheet(pack("b", "<Theme_name Name=\"Green\"/>"), one), named);
 }
 
 TEST_F(Sheet, LongTitleEndsBeforeTheMargin) {
   const QImage sheet =
       this->sheet(theme2("<Theme_name Name=\"" + QByteArray(300, 'W') +
                          "\"/><Theme_creator Name=\"" + QByteArray(300, 'M') + "\"/>"),
-                  {u"--screens"_s, u"desktop"_s});
+                  {"--screens", "desktop"});
   EXPECT_EQ(colorsIn(sheet.copy(sheet.width() - 12, 0, 12, sheet.height())).size(), 1U);
   EXPECT_GT(colorsIn(sheet.copy(0, 0, sheet.width(), 45)).size(), 1U);
 }
 
 TEST_F(Sheet, LongTitleEndsInAnEllipsis) {
   const auto titled = [this](const QByteArray& name) {
-    return sheet(theme2("<Theme_name Name=\"" + name + "\"/>"), {u"--screens"_s, u"desktop"_s});
+    return sheet(theme2("<Theme_name Name=\"" + name + "\"/>"), {"--screens", "desktop"});
   };
   const QImage shortened = titled(QByteArray(300, 'W'));
   int places = 0;
@@ -110,8 +111,9 @@ TEST_F(Sheet, LongTitleEndsInAnEllipsis) {
 TEST_F(Sheet, IsMagnifiedAsAWhole) {
   const QString theme = theme2("");
   const QImage plain = sheet(theme, {});
-  EXPECT_EQ(sheet(theme, {u"--scale"_s, u"2"_s}), plain.scaled(plain.size() * 2));
+  EXPECT_EQ(sheet(theme, {"--scale", "2"}), plain.scaled(plain.size() * 2));
 }
 
 }  // namespace
+
 }  // namespace quillane

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/text.h"
 #include "thmtool/tool.h"
 
@@ -15,8 +15,6 @@
 #include <string>
 
 namespace quillane {
-
-using namespace Qt::StringLiterals;
 
 /// How a run of the tool ended and what it wrote.
 struct ToolRun {
@@ -46,19 +44,19 @@ class ToolTest : public TempFolder {
  protected:
   /// A theme of generation 2 with an XML of these elements, and the path of its file.
   QString theme2(const QByteArray& elements) const {
-    return pack(u"theme2"_s, "<Ericsson_theme>" + elements + "</Ericsson_theme>");
+    return pack("theme2", "<Ericsson_theme>" + elements + "</Ericsson_theme>");
   }
   QString theme3G(const QByteArray& elements) const {
-    return pack(u"theme3g"_s, "<Sony_Ericsson_theme>" + elements + "</Sony_Ericsson_theme>");
+    return pack("theme3g", "<Sony_Ericsson_theme>" + elements + "</Sony_Ericsson_theme>");
   }
   /// The files that `write` made earlier below the name of a theme go into it as well.
   QString pack(const QString& name, const QByteArray& xml) const {
-    write(name + u"/theme.xml"_s, xml);
-    QStringList words{u"pack"_s, path(name + u".thm"_s)};
+    write(name + "/theme.xml", xml);
+    QStringList words{"pack", path(name + ".thm")};
     for (const QString& file : listOf(name))
       words += path(name + u'/' + file);
     EXPECT_EQ(runTool(words), kQuiet);
-    return path(name + u".thm"_s);
+    return path(name + ".thm");
   }
 
   QImage image(const QString& name) const { return QImage(path(name), "PNG"); }

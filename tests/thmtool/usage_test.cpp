@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 namespace quillane {
+
 namespace {
 
 struct WrongUse {
@@ -63,17 +64,17 @@ constexpr WrongUse kWrongUses[] = {
 TEST(Usage, TellsWhatIsWrong) {
   for (const WrongUse& use : kWrongUses) {
     SCOPED_TRACE(use.name);
-    const QStringList words = QString::fromLatin1(use.words).split(u'|', Qt::SkipEmptyParts);
+    const QStringList words = QString(use.words).split(u'|', Qt::SkipEmptyParts);
     EXPECT_EQ(runTool(words), (ToolRun{WrongUsage, "", use.complaint}));
   }
 }
 
 TEST(Usage, ShowsVersion) {
-  EXPECT_EQ(runTool({u"--version"_s}), (ToolRun{AllWell, "thmtool 3.0.187\n", ""}));
+  EXPECT_EQ(runTool({"--version"}), (ToolRun{AllWell, "thmtool 3.0.187\n", ""}));
 }
 
 TEST(Usage, HelpsWithTheTool) {
-  EXPECT_EQ(runTool({u"--help"_s}),
+  EXPECT_EQ(runTool({"--help"}),
             (ToolRun{AllWell,
                      "Usage: thmtool VERB ...\n"
                      "\n"
@@ -106,13 +107,13 @@ TEST(Usage, HelpsWithAVerb) {
                      "  --index  put a generated index.txt in front of the files\n"
                      "  --help   show this text\n",
                      ""};
-  EXPECT_EQ(runTool({u"pack"_s, u"--help"_s}), help);
-  EXPECT_EQ(runTool({u"pack"_s, u"--nonsense"_s, u"--help"_s, u"x"_s}), help);
+  EXPECT_EQ(runTool({"pack", "--help"}), help);
+  EXPECT_EQ(runTool({"pack", "--nonsense", "--help", "x"}), help);
 }
 
 TEST(Usage, EveryVerbHelps) {
   for (const Verb* verb : verbs()) {
-    const ToolRun help = runTool({verb->name, u"--help"_s});
+    const ToolRun help = runTool({verb->name, "--help"});
     const std::string usage =
         "Usage: thmtool " + QString(verb->name + u' ' + verb->words).toStdString();
     EXPECT_THAT(help.out, testing::StartsWith(usage));
@@ -125,13 +126,13 @@ TEST(Usage, EveryVerbHelps) {
 }
 
 TEST(Usage, ManualKnowsEveryVerbAndOption) {
-  QFile page(QStringLiteral(MANUAL_PAGE));
+  QFile page(MANUAL_PAGE);
   ASSERT_TRUE(page.open(QIODevice::ReadOnly));
   const QString manual = QString::fromUtf8(page.readAll()).remove(u'\\');
   for (const Verb* verb : verbs()) {
-    EXPECT_TRUE(manual.contains(u".B thmtool "_s + verb->name + u'\n')) << verb->name.data();
+    EXPECT_TRUE(manual.contains(".B thmtool " + verb->name + u'\n')) << verb->name.data();
     for (const OptionRow& option : verb->options)
-      EXPECT_TRUE(manual.contains(u"--"_s + option.name)) << option.name.data();
+      EXPECT_TRUE(manual.contains("--" + option.name)) << option.name.data();
   }
 }
 
@@ -145,9 +146,10 @@ TEST(Usage, OutputThatDoesNotArriveIsNotSuccess) {
   FullDisk disk;
   std::ostream out(&disk);
   std::ostringstream err;
-  EXPECT_EQ(runTool({u"--version"_s}, out, err), NotDone);
+  EXPECT_EQ(runTool({"--version"}, out, err), NotDone);
   EXPECT_EQ(err.str(), "thmtool: The output could not be written; is there room where it goes?\n");
 }
 
 }  // namespace
+
 }  // namespace quillane
