@@ -10,7 +10,6 @@
 #include "support/scripteddialogs.h"
 #include "support/stillworld.h"
 #include "support/tempfolder.h"
-#include "support/text.h"
 
 #include <QAction>
 #include <QLabel>
@@ -31,6 +30,11 @@ class BrowserTest : public TempFolder {
   /// Packs a theme with the given elements, as in "<Text Color=\"0x000000\"/>", into "themes".
   void addTheme(const QString& name, const QByteArray& elements = {}, bool is3G = false,
                 const QStringList& images = {});
+  /// Themes of one letter each that set nothing.
+  void addThemes(const QString& letters) {
+    for (const QChar letter : letters)
+      addTheme(letter + QString(".thm"));
+  }
   /// A file in "themes" that is no theme.
   void addDamaged(const QString& name) { write("themes/" + name, "this is no archive"); }
 

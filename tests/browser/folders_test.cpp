@@ -57,13 +57,6 @@ TEST_F(Folders, CancelledBrowsingChangesNothing) {
   EXPECT_TRUE(history().isEmpty());
 }
 
-TEST_F(Folders, TheRootHasOneSeparator) {
-  open();
-  dialogs.expectFolder("Select folder with themes:", "/");
-  click("btnBrowse");
-  EXPECT_EQ(state.BrowseFolder, "/");
-}
-
 TEST_F(Folders, RefreshForgetsTheSelection) {
   addTheme("a.thm");
   open();

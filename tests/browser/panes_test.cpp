@@ -19,6 +19,8 @@ class Panes : public BrowserTest {
  protected:
   /// Captions of the menu that a right click on a pane opens; empty when none opens.
   QStringList menuOf(const char* pane) {
+    QTest::mouseClick(&control<PictureBox>(pane), Qt::LeftButton, {}, {30, 30});
+    EXPECT_FALSE(QApplication::activePopupWidget());
     QTest::mouseClick(&control<PictureBox>(pane), Qt::RightButton, {}, {30, 30});
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     QStringList captions;
@@ -47,13 +49,7 @@ TEST_F(Panes, OfferTheImagesOfGeneration2) {
 }
 
 TEST_F(Panes, OfferTheImagesOf3GWithTheirAsymmetry) {
-  struct Case {
-    const char* pane;
-    int index;
-    QStringList without;  // offered by a theme without images
-    QStringList added;    // and beside these by one with all of them
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, int, QStringList, QStringList> cases[] = {
       {"picStandby2", 1, {"Wallpaper"}, {"Statusbar", "Softkeys"}},
       {"picDesktop2", 2, {"Desktop"}, {"Statusbar", "Softkeys"}},
       {"picMenu2", 3, {"Title", "General Background"}, {"Statusbar", "Highlight", "Softkeys"}},
@@ -62,8 +58,7 @@ TEST_F(Panes, OfferTheImagesOf3GWithTheirAsymmetry) {
        {"Title", "General Background", "Popup Title", "Popup Highlight"},
        {"Statusbar", "Softkeys"}},
       {"picCalendar2", 5, {"Title", "General Background"}, {"Statusbar", "Softkeys"}},
-      {"picNotes2", 6, {"Wallpaper"}, {"Statusbar", "Softkeys"}},
-  };
+      {"picNotes2", 6, {"Wallpaper"}, {"Statusbar", "Softkeys"}}};
   QByteArray elements;
   for (const ImageElement& image : schemaOf(Generation::ThreeG).images)
     elements += QByteArray("<") + image.element.data() + " Source=\"i.gif\"/>";
@@ -73,24 +68,23 @@ TEST_F(Panes, OfferTheImagesOf3GWithTheirAsymmetry) {
   for (const bool full : {false, true}) {
     list().clearSelection();
     list().setSelected(full ? 1 : 0, true);
-    for (const Case& row : cases) {
-      QStringList wanted = full ? row.without + row.added : row.without;
-      QStringList offered = menuOf(row.pane);
-      ASSERT_FALSE(offered.isEmpty()) << row.pane;
+    for (const auto& [pane, index, without, added] : cases) {
+      QStringList wanted = full ? without + added : without;
+      QStringList offered = menuOf(pane);
+      ASSERT_FALSE(offered.isEmpty()) << pane;
       EXPECT_EQ(offered.takeFirst(), "Vistrel &Capture...");
       for (QString& caption : offered)
         caption = caption.mid(8).chopped(9);  // "Extract ... Image..."
       wanted.sort();
       offered.sort();
-      EXPECT_EQ(offered, wanted) << row.pane << full;
-      EXPECT_EQ(state.CapturePane, row.index);
+      EXPECT_EQ(offered, wanted) << pane << full;
+      EXPECT_EQ(state.CapturePane, index);
     }
   }
 }
 
 TEST_F(Panes, OpenNoMenuWithoutOneGoodTheme) {
-  addTheme("a.thm");
-  addTheme("b.thm");
+  addThemes("ab");
   addDamaged("c.thm");
   open();
   EXPECT_TRUE(menuOf("picStandby").isEmpty()) << "nothing selected";

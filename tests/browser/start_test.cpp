@@ -12,36 +12,27 @@ namespace {
 class BrowserStart : public BrowserTest {};
 
 TEST_F(BrowserStart, SelectsTheThemeOfTheCommandLine) {
-  addTheme("a.thm");
-  addTheme("Blue Sky.thm");
+  for (const char* name : {"Blue Sky.thm", "red.thm"})
+    addTheme(name);
   state.BrowseFolder = path("home/");
-  open(path("themes/Blue Sky.thm"));
+  open('"' + path("themes/Blue Sky.thm") + '"');
   EXPECT_EQ(state.BrowseFolder, path("themes/"));
-  EXPECT_EQ(state.ThemeFilePath, path("themes/Blue Sky.thm"));
-}
-
-TEST_F(BrowserStart, AQuotedPathWithCapitalsOpensItsFolderOnly) {
-  addTheme("Blue.thm");
-  addTheme("red.thm");
-  state.BrowseFolder = path("home/");
-  open('"' + path("themes/Blue.thm") + '"');
-  EXPECT_EQ(state.BrowseFolder, path("themes/"));
-  EXPECT_TRUE(list().selectedItems().isEmpty());
-  open('"' + path("themes/red.thm") + '"');
-  EXPECT_EQ(state.ThemeFilePath, path("themes/red.thm"));
+  EXPECT_TRUE(list().selectedItems().isEmpty()) << "quotes and capitals";
+  for (const QString& line : {'"' + path("themes/red.thm") + '"', path("themes/Blue Sky.thm")}) {
+    state.BrowseFolder = path("home/");
+    open(line);
+    EXPECT_EQ(state.BrowseFolder, path("themes/"));
+    EXPECT_EQ(state.ThemeFilePath, QString(line).remove('"'));
+  }
 }
 
 TEST_F(BrowserStart, SaysThatAThemeIsMissing) {
-  const QString missing = path("home/none.thm");
-  dialogs.expectMessage("Theme " + missing + " could not been found.");
-  open(missing);
-  EXPECT_EQ(state.BrowseFolder, path("home/"));
-}
-
-TEST_F(BrowserStart, StaysWhereItWasForAMissingFolder) {
-  dialogs.expectMessage("Theme *");
-  open(path("nowhere/none.thm"));
-  EXPECT_EQ(state.BrowseFolder, path("themes/"));
+  for (const auto& [missing, folder] :
+       {std::pair{"nowhere/none.thm", "themes/"}, {"home/none.thm", "home/"}}) {
+    dialogs.expectMessage("Theme " + path(missing) + " could not been found.");
+    open(path(missing));
+    EXPECT_EQ(state.BrowseFolder, path(folder));
+  }
 }
 
 TEST_F(BrowserStart, EndsWithAnEmptyWorkFolderAndKeptFolders) {
@@ -72,20 +63,12 @@ TEST_F(BrowserStart, EndsWithAnEmptyWorkFolderAndKeptFolders) {
 
 TEST_F(BrowserStart, LaysTheWindowOutAsDesigned) {
   open();
-  struct Place {
-    const char* control;
-    QRect place;
-  };
-  const Place places[] = {
-      {"btnBrowse", {10, 3, 27, 26}},         {"btnDropDown", {37, 3, 10, 26}},
-      {"btnIRSend", {418, 3, 27, 26}},        {"filFiles", {10, 42, 160, 405}},
-      {"picPreview_1", {180, 42, 491, 409}},  {"picMenu_3", {125, 314, 115, 95}},
-      {"picWapbrowser", {375, 257, 115, 95}}, {"picNotes2", {326, 195, 142, 175}},
-      {"txtXML", {180, 42, 491, 409}},        {"lblSize", {430, 464, 222, 13}},
-      {"picToolTip", {660, 463, 16, 16}},
-  };
-  for (const Place& row : places)
-    EXPECT_EQ(control<QWidget>(row.control).geometry(), row.place) << row.control;
+  const std::pair<const char*, QRect> places[] = {{"btnDropDown", {37, 3, 10, 26}},
+                                                  {"picMenu_3", {125, 314, 115, 95}},
+                                                  {"txtXML", {180, 42, 491, 409}},
+                                                  {"picToolTip", {660, 463, 16, 16}}};
+  for (const auto& [name, place] : places)
+    EXPECT_EQ(control<QWidget>(name).geometry(), place) << name;
   for (const QToolButton* button : browser->findChildren<QToolButton*>()) {
     if (!button->objectName().startsWith("btn")) continue;
     EXPECT_FALSE(button->icon().isNull()) << button->objectName().toStdString();

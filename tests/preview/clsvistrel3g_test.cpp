@@ -4,7 +4,6 @@
 
 #include "preview/clsvistrel.h"
 #include "support/probes.h"
-#include "support/samplephone.h"
 #include "support/text.h"
 
 #include <functional>
@@ -60,12 +59,7 @@ TEST_F(Vistrel3GTest, ImagesAreCutToTheirZones) {
   const auto standby = [&] { engine.DrawStandby(); };
   const auto desktop = [&] { engine.DrawDesktop(); };
   const auto list = [&] { engine.DrawSoftkeys(0); };
-  const struct {
-    gen3g::Image slot;
-    std::function<void()> draw;
-    QSize size;
-    QRect shown;
-  } table[] = {
+  const std::tuple<gen3g::Image, std::function<void()>, QSize, QRect> table[] = {
       {gen3g::StatusbarBackgroundImage, standby, {200, 200}, {5, 5, 128, 14}},
       {gen3g::WallpaperImage, standby, {200, 200}, {5, 19, 128, 127}},
       {gen3g::DesktopBackgroundImage, desktop, {200, 200}, {5, 19, 128, 127}},
@@ -75,11 +69,11 @@ TEST_F(Vistrel3GTest, ImagesAreCutToTheirZones) {
       {gen3g::SoftkeysBackgroundImage, desktop, {200, 200}, {5, 146, 128, 19}},
       {gen3g::SoftkeysBackgroundImage, list, {130, 22}, {5, 146, 130, 22}},  // Not this one.
   };
-  for (const auto& row : table) {
+  for (const auto& [slot, draw, size, shown] : table) {
     engine.DefaultColors();
-    engine.setImage(row.slot, file(row.size));
-    row.draw();
-    EXPECT_EQ(boundsOf(surface.image(), kImage), row.shown) << "row " << &row - table;
+    engine.setImage(slot, file(size));
+    draw();
+    EXPECT_EQ(boundsOf(surface.image(), kImage), shown) << slot;
   }
   engine.setImage(gen3g::StatusbarBackgroundImage, file({60, 14}));
   engine.DrawStandby();
@@ -120,35 +114,29 @@ TEST_F(Vistrel3GTest, SoftkeyBoxesAndRightLabels) {
   const auto standby = [&] { engine.DrawStandby(); };
   const auto desktop = [&] { engine.DrawDesktop(); };
   const auto pressed = [&] { engine.DrawSoftkeys(1); };
-  const QRect plain(102, 150, 26, 9);  // The label and, one pixel further, its shadow.
-  const struct {
-    const char* name;
-    std::function<void()> draw;
-    const char* labels;
-    QRect left, right, label, shadow;
-  } table[] = {
-      {"gap", standby, "|MNH", {7, 148, 53, 15}, {80, 148, 51, 15}, plain, plain.translated(1, 1)},
-      {"one label", desktop, "", {7, 148, 61, 15}, {}, {}, {}},
-      {"two", desktop, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain, plain.translated(1, 1)},
-      {"three", desktop, "|MNH|", {7, 148, 61, 15}, {}, {}, {}},
-      {"pressed", pressed, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain.translated(1, 1), {}},
-  };
+  const QRect plain(102, 150, 26, 9);
+  const QRect deep = plain.translated(1, 1);  // Its shadow, or where it is when pressed.
+  using Row = std::tuple<const char*, std::function<void()>, QString, QRect, QRect, QRect, QRect>;
+  const Row table[] = {{"gap", standby, "|MNH", {7, 148, 53, 15}, {80, 148, 51, 15}, plain, deep},
+                       {"one label", desktop, "", {7, 148, 61, 15}, {}, {}, {}},
+                       {"two", desktop, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain, deep},
+                       {"three", desktop, "|MNH|", {7, 148, 61, 15}, {}, {}, {}},
+                       {"pressed", pressed, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, deep, {}}};
   engine.setColor(gen3g::SoftkeysBackgroundColor, "0000FF");
   engine.setColor(gen3g::SoftkeysBackgroundActivatedColor, "00FFFF");
   engine.setColor(gen3g::SoftkeysTextColor, "FF0000");
   engine.setColor(gen3g::SoftkeysTextShadowColor, "00FF00");
-  for (const auto& row : table) {
-    const QString labels = QString(row.labels);
+  for (const auto& [name, draw, labels, left, right, label, shadow] : table) {
     engine.StandbySoftkeyText = engine.SoftkeysSoftkeyText = labels;
     engine.DesktopSoftkeyText = labels.isEmpty() ? " " : labels;
-    row.draw();
+    draw();
     const QImage& image = surface.image();
-    const bool isPressed = row.name == std::string_view("pressed");
-    EXPECT_EQ(boundsOf(image, 0xFF0000FF, {0, 0, 69, 171}), row.left) << row.name;
-    EXPECT_EQ(boundsOf(image, isPressed ? 0xFF00FFFF : 0xFF0000FF, {69, 0, 69, 171}), row.right)
-        << row.name;
-    EXPECT_EQ(boundsOf(image, 0xFFFF0000), row.label) << row.name;
-    EXPECT_EQ(boundsOf(image, 0xFF00FF00), row.shadow) << row.name;
+    const bool isPressed = name == std::string_view("pressed");
+    EXPECT_EQ(boundsOf(image, 0xFF0000FF, {0, 0, 69, 171}), left) << name;
+    EXPECT_EQ(boundsOf(image, isPressed ? 0xFF00FFFF : 0xFF0000FF, {69, 0, 69, 171}), right)
+        << name;
+    EXPECT_EQ(boundsOf(image, 0xFFFF0000), label) << name;
+    EXPECT_EQ(boundsOf(image, 0xFF00FF00), shadow) << name;
   }
 }
 

@@ -63,13 +63,9 @@ TEST_F(VistrelTest, DefaultsReplaceTheThemeAndKeepThePhone) {
 }
 
 TEST_F(VistrelTest, StatusIcons) {
-  const struct {
-    int type, signal, battery;
-    int gprs;  // The range; below zero it is not shown.
-    int line;  // 0 is not shown.
-    bool infrared;
-    std::vector<PlacedIcon> icons;  // Behind those of signal and battery.
-  } table[] = {
+  // Type, signal, battery, GPRS range (below 0 not shown), line (0 not shown), infrared and the
+  // icons behind those of signal and battery.
+  const std::tuple<int, int, int, int, int, bool, std::vector<PlacedIcon>> table[] = {
       {0, 0, 0, -1, 0, false, {}},
       {0, 1, 1, 0, 0, false, {{1300, {5, 72}}}},
       {0, 2, 3, 1, 0, false, {{1301, {5, 72}}}},
@@ -77,21 +73,20 @@ TEST_F(VistrelTest, StatusIcons) {
       {0, 4, 10, -1, 2, true, {{1401, {23, 6}}, {1500, {9, 6}}}},
       {1, 5, 10, 1, 2, false, {{1301, {5, 72}}, {1401, {8, 38}}}},
       {1, 5, 10, -1, 1, true, {{1400, {8, 38}}, {1500, {94, 35}}}},
-      {2, 5, 10, -1, 2, true, {{1401, {23, 6}}, {1500, {9, 6}}}},
-  };
-  for (const auto& row : table) {
-    engine.StandbyType = row.type;
-    engine.SignalStrength = row.signal;
-    engine.BatteryLevel = row.battery;
-    engine.ShowGPRSIcon = row.gprs >= 0;
-    engine.GPRSRange = row.gprs;
-    engine.ShowLineIcon = row.line > 0;
-    engine.LineIcon = row.line;
-    engine.ShowIRIcon = row.infrared;
+      {2, 5, 10, -1, 2, true, {{1401, {23, 6}}, {1500, {9, 6}}}}};
+  for (const auto& [type, signal, battery, gprs, line, infrared, icons] : table) {
+    engine.StandbyType = type;
+    engine.SignalStrength = signal;
+    engine.BatteryLevel = battery;
+    engine.ShowGPRSIcon = gprs >= 0;
+    engine.GPRSRange = gprs;
+    engine.ShowLineIcon = line > 0;
+    engine.LineIcon = line;
+    engine.ShowIRIcon = infrared;
     engine.DrawStandby();
-    std::vector<PlacedIcon> icons{{1200 + row.signal, {5, 76}}, {1100 + row.battery, {86, 75}}};
-    icons.insert(icons.end(), row.icons.begin(), row.icons.end());
-    EXPECT_EQ(part(kScreen), iconsOn(kFill, icons).copy(kScreen)) << "row " << &row - table;
+    std::vector<PlacedIcon> all{{1200 + signal, {5, 76}}, {1100 + battery, {86, 75}}};
+    all.insert(all.end(), icons.begin(), icons.end());
+    EXPECT_EQ(part(kScreen), iconsOn(kFill, all).copy(kScreen)) << signal;
   }
 }
 
@@ -107,29 +102,23 @@ TEST_F(VistrelTest, DesktopCellsAndAMissingTitle) {
 }
 
 TEST_F(VistrelTest, ScreenImagesAreCentredOrCropped) {
-  const struct {
-    QSize size;
-    QPoint at;      // A place on the surface ...
-    QPoint source;  // ... and the pixel of the picture that it shows.
-    QPoint filled;  // A place that shows the fill colour; none when null.
-  } table[] = {
-      {{101, 80}, {5, 20}, {0, 15}, {}},          {{101, 80}, {105, 70}, {100, 65}, {}},
+  // A picture's size, a place on the surface, the pixel of the picture that it shows, and a place
+  // that shows the fill colour, none when null.
+  const std::tuple<QSize, QPoint, QPoint, QPoint> table[] = {
+      {{101, 80}, {5, 20}, {0, 15}, {}},         {{101, 80}, {105, 70}, {100, 65}, {}},
       {{50, 40}, {31, 26}, {0, 0}, {30, 26}},    // Height 39: from 25.5; left 30.5.
       {{50, 40}, {80, 65}, {49, 39}, {80, 66}},  // All 40 rows.
-      {{101, 100}, {5, 20}, {0, 25}, {}},         {{50, 100}, {31, 20}, {0, 25}, {81, 20}},
+      {{101, 100}, {5, 20}, {0, 25}, {}},        {{50, 100}, {31, 20}, {0, 25}, {81, 20}},
       {{200, 80}, {5, 20}, {50, 15}, {}},  // Source from 49.5.
-      {{200, 100}, {5, 20}, {50, 25}, {}},        {{200, 60}, {30, 20}, {75, 5}, {30, 14}},
-      {{200, 60}, {60, 70}, {105, 55}, {30, 75}},
-  };
-  for (const auto& row : table) {
-    background(map(row.size));
+      {{200, 100}, {5, 20}, {50, 25}, {}},       {{200, 60}, {30, 20}, {75, 5}, {30, 14}},
+      {{200, 60}, {60, 70}, {105, 55}, {30, 75}}};
+  for (const auto& [size, at, source, filled] : table) {
+    background(map(size));
     engine.DrawStandby();
-    EXPECT_EQ(pixel(row.at.x(), row.at.y()), qRgb(row.source.x(), row.source.y(), 77))
-        << "row " << &row - table;
-    EXPECT_TRUE(row.filled.isNull() || pixel(row.filled.x(), row.filled.y()) == kFill)
-        << "row " << &row - table;
-    EXPECT_EQ(pixel(106, 40), kMargin) << "row " << &row - table;
-    EXPECT_EQ(pixel(50, 85), kMargin) << "row " << &row - table;
+    EXPECT_EQ(pixel(at.x(), at.y()), qRgb(source.x(), source.y(), 77)) << size.width();
+    EXPECT_TRUE(filled.isNull() || pixel(filled.x(), filled.y()) == kFill) << size.width();
+    EXPECT_EQ(pixel(106, 40), kMargin) << size.width();
+    EXPECT_EQ(pixel(50, 85), kMargin) << size.width();
   }
 }
 
@@ -170,15 +159,13 @@ TEST_F(VistrelTest, FailingStepsAreSkipped) {
   background(path("none.gif"));
   engine.setColor(gen2::StandbyOperatorNameOutlineColor, "00FF00");
   engine.setColor(gen2::StandbyOperatorNameColor, "nocolr");
-  const struct {
-    const char* color;
-    QRgb ground;
-  } table[] = {{"102030", kFill}, {"12345G", kMargin}, {"FF", 0xFFFF0000}};
-  for (const auto& row : table) {
-    engine.setColor(gen2::BackgroundColor, row.color);
+  const std::pair<const char*, QRgb> table[] = {
+      {"102030", kFill}, {"12345G", kMargin}, {"FF", 0xFFFF0000}};
+  for (const auto& [color, ground] : table) {
+    engine.setColor(gen2::BackgroundColor, color);
     engine.DrawStandby();
-    EXPECT_EQ(pixel(20, 50), row.ground) << row.color;
-    EXPECT_TRUE(shows(0xFF00FF00)) << row.color;
+    EXPECT_EQ(pixel(20, 50), ground) << color;
+    EXPECT_TRUE(shows(0xFF00FF00)) << color;
     EXPECT_TRUE(boundsOf(surface.image(), 0xFF000000, {5, 5, 101, 13}).isNull())
         << "the outline's colour stays";
   }

@@ -42,12 +42,7 @@ Picture flag() {
 }
 
 TEST(PaintingTest, PicturesLandOnTheNearestPixelAndClip) {
-  const struct {
-    const char* name;
-    QPointF at;
-    QRectF source;
-    Rows rows;
-  } table[] = {
+  const std::tuple<const char*, QPointF, QRectF, Rows> table[] = {
       {"half goes up", {0.5, 0.5}, {0, 0, 3, 2}, {".....", ".rgb.", ".r.b."}},
       {"below half stays", {1.49, 0}, {0, 0, 3, 2}, {".rgb.", ".r.b.", "....."}},
       {"negative half goes up", {-0.5, 0}, {0, 0, 3, 2}, {"rgb..", "r.b..", "....."}},
@@ -59,14 +54,13 @@ TEST(PaintingTest, PicturesLandOnTheNearestPixelAndClip) {
       {"beyond right and bottom", {1, 1}, {2, 1, 9, 9}, {".....", ".b...", "....."}},
       {"before left and top", {1, 1}, {-1, -1, 3, 2}, {".....", ".....", "..rg."}},
       {"negative half is the origin", {1, 1}, {-0.5, 0, 2, 1}, {".....", ".rg..", "....."}},
-      {"no part", {1, 1}, {3, 0, 2, 2}, {".....", ".....", "....."}},
-  };
-  for (const auto& row : table) {
+      {"no part", {1, 1}, {3, 0, 2, 2}, {".....", ".....", "....."}}};
+  for (const auto& [name, at, source, rows] : table) {
     Surface surface(QSize(5, 3));
     surface.PaintPicture(Picture(), 0, 0);
-    surface.PaintPicture(flag(), row.at.x(), row.at.y(), row.source.x(), row.source.y(),
-                         row.source.width(), row.source.height());
-    EXPECT_EQ(lettersOf(surface.image()), row.rows) << row.name;
+    surface.PaintPicture(flag(), at.x(), at.y(), source.x(), source.y(), source.width(),
+                         source.height());
+    EXPECT_EQ(lettersOf(surface.image()), rows) << name;
   }
 }
 
@@ -113,12 +107,8 @@ TEST(PaintingTest, AmpersandsAndLineEnds) {
 
 TEST(PaintingTest, AlignmentAndClip) {
   // An "A" colours 7 of its 8 columns.
-  const struct {
-    const char* name;
-    const char* text;
-    int alignment, left, width;
-    int first, last;  // Columns; -1 for none.
-  } table[] = {
+  // The last two are columns, -1 for none.
+  const std::tuple<const char*, const char*, int, int, int, int, int> table[] = {
       {"left", "A", AlignLeft, 4, 20, 4, 10},
       {"anything else is left", "A", 0, 4, 20, 4, 10},
       {"right", "A", AlignRight, 4, 20, 16, 22},
@@ -128,14 +118,13 @@ TEST(PaintingTest, AlignmentAndClip) {
       {"right, too wide", "AAA", AlignRight, 0, 9, 1, 7},
       {"cut at the surface", "AAAA", AlignLeft, 20, 40, 20, 29},
       {"no room", "A", AlignLeft, 5, 0, 0, -1},
-      {"beside the surface", "A", AlignLeft, 30, 9, 0, -1},
-  };
-  for (const auto& row : table) {
+      {"beside the surface", "A", AlignLeft, 30, 9, 0, -1}};
+  for (const auto& [name, text, alignment, left, width, first, last] : table) {
     Surface wide(QSize(30, 13));
-    DrawTextRect(wide, row.text, row.left, 0, 13, row.width, tahomaBold(row.alignment));
+    DrawTextRect(wide, text, left, 0, 13, width, tahomaBold(alignment));
     const QRect bounds = boundsOf(wide.image(), 0xFF000000);
-    EXPECT_EQ(bounds.left(), row.first) << row.name;
-    EXPECT_EQ(bounds.right(), row.last) << row.name;
+    EXPECT_EQ(bounds.left(), first) << name;
+    EXPECT_EQ(bounds.right(), last) << name;
   }
 
   // Cut at the rectangle's top and bottom: rows 3 to 10 hold the letter.

@@ -3,7 +3,6 @@
 #include "preview/picture.h"
 
 #include "support/tempfolder.h"
-#include "support/text.h"
 #include "support/tinygif.h"
 
 #include <QBuffer>
@@ -61,11 +60,8 @@ TEST_F(PictureTest, FilesAreReadByContent) {
   const QByteArray gif = tinyGif({3, 2}, whole, 1);
   const QByteArray longGif = tinyGif({30, 20}, {0, 0, 30, 20}, 1);
 
-  const struct {
-    const char* name;
-    QByteArray bytes;
-    QSize size;  // Null: it cannot be read.
-  } table[] = {
+  // A null size: it cannot be read.
+  const std::tuple<const char*, QByteArray, QSize> table[] = {
       {"gif.gif", gif, {3, 2}},
       {"gif named.jpg", gif, {3, 2}},
       {"gif without a suffix", gif, {3, 2}},
@@ -85,13 +81,12 @@ TEST_F(PictureTest, FilesAreReadByContent) {
       {"gif screen too wide.gif", tinyGif({5000, 1}, whole, 1), {}},
       {"bitmap too wide.bmp", encoded("bmp", {4097, 1}), {}},
       {"jpeg too high.jpg", encoded("jpeg", {1, 5000}), {}},
-      {"jpeg cut in its header.jpg", encoded("jpeg").left(20), {}},
-  };
-  for (const auto& row : table) {
-    QSize size;
-    const int fault = faultNumberOf([&] { size = load(row.name, row.bytes).size(); });
-    EXPECT_EQ(fault, row.size.isValid() ? 0 : 481) << row.name;
-    EXPECT_EQ(size, row.size) << row.name;
+      {"jpeg cut in its header.jpg", encoded("jpeg").left(20), {}}};
+  for (const auto& [name, bytes, size] : table) {
+    QSize seen;
+    const int number = faultNumberOf([&] { seen = load(name, bytes).size(); });
+    EXPECT_EQ(number, size.isValid() ? 0 : 481) << name;
+    EXPECT_EQ(seen, size) << name;
   }
   EXPECT_EQ(faultNumberOf([&] { LoadPicture(path("none.gif")); }), 53);
   EXPECT_EQ(faultNumberOf([&] { LoadPicture(path()); }), 53);
@@ -112,29 +107,21 @@ QByteArray maskedIcon() {
 TEST_F(PictureTest, TransparentPicturesKeepTheirHoles) {
   const QRegion icon(0, 0, 33, 2);
   const QRegion holes = QRegion(1, 0, 1, 1) + QRegion(32, 1, 1, 1);
-  const struct {
-    const char* name;
-    QByteArray bytes;
-    QRegion seen;
-  } table[] = {
+  const std::tuple<const char*, QByteArray, QRegion> table[] = {
       {"gif", tinyGif({4, 3}, {1, 1, 2, 1}, 1, 2), {1, 1, 2, 1}},
       {"icon", maskedIcon(), icon - holes},
-      {"icon, mask cut", maskedIcon().chopped(8), icon - QRegion(32, 1, 1, 1)},
-  };
-  for (const auto& row : table) {
-    const QImage image = load(row.name, row.bytes);
+      {"icon, mask cut", maskedIcon().chopped(8), icon - QRegion(32, 1, 1, 1)}};
+  for (const auto& [name, bytes, seen] : table) {
+    const QImage image = load(name, bytes);
     for (int y = 0; y < image.height(); ++y)
       for (int x = 0; x < image.width(); ++x)
-        EXPECT_EQ(qAlpha(image.pixel(x, y)), row.seen.contains(QPoint(x, y)) ? 255 : 0)
-            << row.name << " " << x << "," << y;
+        EXPECT_EQ(qAlpha(image.pixel(x, y)), seen.contains(QPoint(x, y)) ? 255 : 0)
+            << name << " " << x << "," << y;
   }
 }
 
 TEST_F(PictureTest, NumberedIcons) {
-  const struct {
-    int first, last;
-    QSize size;
-  } table[] = {
+  const std::tuple<int, int, QSize> table[] = {
       {1000, 1000, {101, 80}},  {1001, 1007, {33, 21}},   {1008, 1008, {33, 20}},
       {1009, 1009, {33, 21}},   {1100, 1110, {20, 10}},   {1200, 1205, {16, 9}},
       {1300, 1301, {16, 8}},    {1400, 1401, {9, 9}},     {1500, 1500, {8, 11}},
@@ -142,11 +129,10 @@ TEST_F(PictureTest, NumberedIcons) {
       {2200, 2205, {16, 9}},    {2300, 2301, {14, 8}},    {2400, 2400, {11, 11}},
       {2500, 2501, {10, 10}},   {2600, 2600, {110, 103}}, {101, 102, {20, 20}},
       {103, 107, {16, 16}},     {108, 108, {32, 32}},     {109, 131, {16, 16}},
-      {132, 135, {20, 20}},     {136, 148, {16, 16}},     {211, 214, {24, 24}},
-  };
-  for (const auto& row : table)
-    for (int id = row.first; id <= row.last; ++id)
-      EXPECT_EQ(LoadResourcePicture(id).image().size(), row.size) << id;
+      {132, 135, {20, 20}},     {136, 148, {16, 16}},     {211, 214, {24, 24}}};
+  for (const auto& [first, last, size] : table)
+    for (int id = first; id <= last; ++id)
+      EXPECT_EQ(LoadResourcePicture(id).image().size(), size) << id;
   for (const int board : {1000, 2000})
     EXPECT_EQ(qAlpha(LoadResourcePicture(board).image().pixel(0, 40)), 0) << board;
   EXPECT_EQ(faultNumberOf([] { LoadResourcePicture(9999); }), 326);

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/files.h"
 
+#include "shell/ini.h"
 #include "shell/listing.h"
+#include "shell/places.h"
+#include "shell/seed.h"
 #include "support/tempfolder.h"
-#include "support/text.h"
-
-#include <QFile>
 
 namespace quillane {
 
@@ -57,9 +57,63 @@ TEST_F(Files, ListsByNameWhateverTheLetterCase) {
   EXPECT_EQ(listFiles(path(), ".thm"), (QStringList{"A.THM", "b.thm", "c.thm"}));
 }
 
-TEST_F(Files, SaysWhichFolderCannotBeListed) {
-  EXPECT_EQ(faultNumberOf([&] { listFiles(path("missing"), ".thm"); }),
-            static_cast<int>(FaultNumber::NoPermission));
+class Ini : public TempFolder {};
+
+TEST_F(Ini, ReadsAsTheFileStands) {
+  const std::tuple<const char*, QByteArray, QString> cases[] = {
+      {"plain", "[Menu]\r\nTitles=A|B\r\n", "A|B"},
+      {"blanks around", "[ Menu ]\n  Titles  =  A | B  \n", "A | B"},
+      {"other letter case", "[MENU]\ntitles=A\n", "A"},
+      {"quotes", "[Menu]\nTitles=\" A \"\n", "A "},
+      {"a space that is no blank", "[Menu]\nTitles=A\xa0\n", QString("A") + QChar(0xA0)},
+      {"an equals sign in the value", "[Menu]\nTitles=a=b\n", "a=b"},
+      {"first of two keys", "[Menu]\nTitles=1\nTitles=2\n", "1"},
+      {"key in another section", "[Other]\nTitles=1\n[Menu]\n", "standard"},
+      {"commented out", "[Menu]\n;Titles=1\n", "standard"},
+      {"empty value", "[Menu]\nTitles=\n", ""},
+      {"no section", "Titles=1\n", "standard"},
+      {"8-bit text", "[Menu]\nTitles=\xe9\x80\n", "é€"},
+      {"too long", "[Menu]\nTitles=" + QByteArray(300, 'x'), QString(254, 'x')},
+      {"not a text at all", QByteArray("\0\xff[\0=]", 6), "standard"}};
+  for (const auto& [fault, text, value] : cases)
+    EXPECT_EQ(ReadIni("Menu", "Titles", "standard", write("x.lng", text)), value) << fault;
+  EXPECT_EQ(ReadIni("Menu", "Titles", "standard", path("missing.lng")), "standard");
+}
+
+class Seed : public TempFolder {
+ protected:
+  void seed() { seedProgramFolder({path("home"), path("shipped"), {}, {}}, log.reporter()); }
+
+  FaultLog log;
+};
+
+TEST_F(Seed, CopiesEachFileOnceAndNeverOverAnother) {
+  write("shipped/My Themes/a.thm", "new");
+  write("shipped/My Themes/b.thm", "new");
+  write("home/My Themes/a.thm", "the user's own");
+  seed();
+  EXPECT_EQ(read("home/My Themes/a.thm"), "the user's own");
+  EXPECT_EQ(read("home/My Themes/b.thm"), "new");
+
+  QFile::remove(path("home/My Themes/b.thm"));
+  write("shipped/Vistrel Config/2/c.lng", "later");
+  seed();
+  EXPECT_EQ(listOf("home/My Themes"), QStringList{"a.thm"}) << "what was deleted stays deleted";
+  EXPECT_EQ(read("home/Vistrel Config/2/c.lng"), "later");
+  EXPECT_TRUE(log.texts().isEmpty());
+}
+
+TEST_F(Seed, ReportsOnceWhatCannotBeCopiedAndGoesOn) {
+  write("shipped/My Themes/a.thm", "a");
+  write("shipped/My Themes/b.thm", "b");
+  write("shipped/c.txt", "c");
+  write("home/My Themes", "a file in the way");
+  seed();
+  EXPECT_EQ(read("home/c.txt"), "c");
+  ASSERT_EQ(log.texts().size(), 1);
+  EXPECT_TRUE(log.texts().first().contains(path("home/My Themes")))
+      << log.texts().first().toStdString();
+  EXPECT_TRUE(log.texts().first().endsWith("(And 1 more.)"));
 }
 
 }  // namespace

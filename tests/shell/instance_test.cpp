@@ -3,7 +3,6 @@
 #include "shell/instance.h"
 
 #include "support/tempfolder.h"
-#include "support/text.h"
 
 #include <QLockFile>
 

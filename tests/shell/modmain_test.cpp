@@ -7,7 +7,6 @@
 #include "shell/state.h"
 #include "support/stillworld.h"
 #include "support/tempfolder.h"
-#include "support/text.h"
 
 namespace quillane {
 
@@ -47,17 +46,14 @@ class Start : public TempFolder {
 };
 
 TEST_F(Start, RefusesAScreenThatIsTooSmallInBothDirections) {
-  struct Case {
-    QSize screen;
-    bool starts;
-  };
-  const Case cases[] = {{{1024, 500}, true}, {{640, 900}, true}, {{640, 480}, false},
-                        {{800, 599}, true},  {{799, 600}, true}, {{799, 599}, false}};
-  for (const Case& row : cases) {
-    screen.size = row.screen;
+  const std::pair<QSize, bool> cases[] = {{{1024, 500}, true}, {{640, 900}, true},
+                                          {{640, 480}, false}, {{800, 599}, true},
+                                          {{799, 600}, true},  {{799, 599}, false}};
+  for (const auto& [size, starts] : cases) {
+    screen.size = size;
     screen.notes.clear();
-    EXPECT_EQ(start(), row.starts) << row.screen.width() << 'x' << row.screen.height();
-    if (row.starts) continue;
+    EXPECT_EQ(start(), starts) << size.width() << 'x' << size.height();
+    if (starts) continue;
     EXPECT_EQ(screen.notes, QStringList{"Quillane was not designed to run\r\n"
                                         "on screen resolution lower then 800x600."});
   }
@@ -88,12 +84,7 @@ TEST_F(Start, EmptiesTheWorkFolder) {
 }
 
 TEST_F(Start, SettlesTheFolders) {
-  struct Row {
-    const Setting& setting;
-    QString PublicState::*variable;
-    const char* standard;
-  };
-  const Row rows[] = {
+  const std::tuple<const Setting&, QString PublicState::*, const char*> rows[] = {
       {setting::ThemesFolder, &PublicState::ThemesFolder, "My Themes/"},
       {setting::CopyMoveFolder, &PublicState::CopyMoveFolder, "My Themes/"},
       {setting::BrowseFolder, &PublicState::BrowseFolder, "My Themes/"},
@@ -104,20 +95,23 @@ TEST_F(Start, SettlesTheFolders) {
       {setting::ImportFolder, &PublicState::ImportFolder, ""},
       {setting::TARWizFilesFolder, &PublicState::TARWizFilesFolder, ""},
       {setting::ImageWizOpenFolder, &PublicState::ImageWizOpenFolder, ""},
-      {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder, ""},
-  };
+      {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder, ""}};
   makeFolder("home/My Themes");
   start();
-  for (const Row& row : rows)
-    EXPECT_EQ(state.*row.variable, home(row.standard)) << row.setting.key;
-  for (const Row& row : rows)
-    settings.write(row.setting, makeFolder(row.setting.key));
+  for (const auto& [setting, folder, standard] : rows)
+    EXPECT_EQ(state.*folder, home(standard)) << setting.key;
+  for (const auto& [setting, folder, standard] : rows)
+    settings.write(setting, makeFolder(setting.key));
   start();
-  for (const Row& row : rows)
-    EXPECT_EQ(state.*row.variable, path(row.setting.key) + '/') << row.setting.key;
+  for (const auto& [setting, folder, standard] : rows)
+    EXPECT_EQ(state.*folder, path(setting.key) + '/') << setting.key;
   settings.write(setting::ExportFolder, path("vanished"));
+  settings.write(setting::ThemesFolder, path("vanished"));
+  settings.write(setting::BrowseFolder, "");
   start();
   EXPECT_EQ(state.ExportFolder, home());
+  EXPECT_EQ(state.ThemesFolder, home());
+  EXPECT_EQ(state.BrowseFolder, home()) << "follows the themes' folder";
 }
 
 TEST_F(Start, TakesTheSwitchesAndFilesFromTheSettings) {
@@ -147,15 +141,6 @@ TEST_F(Start, TakesTheSwitchesAndFilesFromTheSettings) {
     EXPECT_EQ(engine->GPRSRange, 0);
     EXPECT_EQ(engine->OperatorName, "World");
   }
-}
-
-TEST_F(Start, FallsBackToTheProgramFolderFromAMissingThemesFolder) {
-  makeFolder("home/My Themes");
-  settings.write(setting::ThemesFolder, path("vanished"));
-  start();
-  EXPECT_EQ(state.ThemesFolder, home());
-  EXPECT_EQ(state.BrowseFolder, home());
-  EXPECT_EQ(state.CopyMoveFolder, home());
 }
 
 TEST_F(Start, ShowsTheInfraredIconOfGeneration2WithASender) {

@@ -3,7 +3,6 @@
 #include "shell/settings.h"
 
 #include "support/tempfolder.h"
-#include "support/text.h"
 
 namespace quillane {
 
@@ -12,23 +11,18 @@ namespace {
 class Settings : public TempFolder {};
 
 TEST_F(Settings, ReadsFlagsAndNumbersFromTexts) {
-  struct Case {
-    const char* stored;
-    bool flag;
-    int number;
-    int faults;  // of both readings
-  };
-  const Case cases[] = {{"0", false, 0, 0},  {"-1", true, -1, 0}, {" 7 ", true, 7, 0},
-                        {"0.5", true, 0, 0}, {"2.5", true, 2, 0}, {"70000", true, 3, 1},
-                        {"", true, 3, 2},    {"yes", true, 3, 2}};
+  // The faults are those of both readings.
+  const std::tuple<const char*, bool, int, int> cases[] = {
+      {"0", false, 0, 0},  {"-1", true, -1, 0},   {" 7 ", true, 7, 0}, {"0.5", true, 0, 0},
+      {"2.5", true, 2, 0}, {"70000", true, 3, 1}, {"", true, 3, 2},    {"yes", true, 3, 2}};
   const Setting number{"General", "Number", "3"};
-  for (const Case& row : cases) {
+  for (const auto& [stored, flag, value, faults] : cases) {
     MemorySettings store;
     FaultLog log;
-    store.write(number, row.stored);
-    EXPECT_EQ(flagSetting(store, number, log.reporter()), row.flag) << row.stored;
-    EXPECT_EQ(numberSetting(store, number, log.reporter()), row.number) << row.stored;
-    EXPECT_EQ(log.texts().size(), row.faults) << row.stored;
+    store.write(number, stored);
+    EXPECT_EQ(flagSetting(store, number, log.reporter()), flag) << stored;
+    EXPECT_EQ(numberSetting(store, number, log.reporter()), value) << stored;
+    EXPECT_EQ(log.texts().size(), faults) << stored;
   }
 }
 

@@ -20,8 +20,7 @@ class WithoutPrivilege {
   ~WithoutPrivilege() {
     if (dropped_ && ::setresuid(0, 0, 0) != 0) std::abort();
   }
-  WithoutPrivilege(const WithoutPrivilege&) = delete;
-  WithoutPrivilege& operator=(const WithoutPrivilege&) = delete;
+  Q_DISABLE_COPY(WithoutPrivilege)
 
  private:
   static constexpr uid_t kNobody = 65534;
@@ -41,8 +40,7 @@ class FileSizeLimit {
     ::setrlimit(RLIMIT_FSIZE, &before_);
     std::signal(SIGXFSZ, handler_);
   }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  Q_DISABLE_COPY(FileSizeLimit)
 
  private:
   rlimit before_{};
@@ -58,8 +56,7 @@ class SmallDisk {
   ~SmallDisk() {
     if (mounted_) ::umount2(folder_.constData(), MNT_DETACH);
   }
-  SmallDisk(const SmallDisk&) = delete;
-  SmallDisk& operator=(const SmallDisk&) = delete;
+  Q_DISABLE_COPY(SmallDisk)
 
   bool isMounted() const { return mounted_; }
 

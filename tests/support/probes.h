@@ -4,6 +4,9 @@
 
 #include "preview/picture.h"
 #include "preview/surface.h"
+#include "shell/language.h"
+#include "shell/settings.h"
+#include "shell/state.h"
 #include "support/stillworld.h"
 #include "support/tempfolder.h"
 
@@ -57,6 +60,17 @@ inline QImage iconsOn(QRgb ground, const std::vector<PlacedIcon>& icons) {
   for (const PlacedIcon& icon : icons)
     surface.PaintPicture(LoadResourcePicture(icon.id), icon.at.x(), icon.at.y());
   return surface.image();
+}
+
+/// Gives an engine the texts and the state of a phone at rest that a new user sees.
+template <class Engine>
+void fillPhone(Engine& engine) {
+  PublicState state;
+  const auto report = [](const Fault& fault) { ADD_FAILURE() << fault.what(); };
+  if constexpr (requires { engine.DrawImages; })
+    InitPreview3G(engine, state, MemorySettings(), report);
+  else
+    InitPreview2(engine, state, MemorySettings(), report);
 }
 
 /// An engine with a surface to paint on, and a folder for its pictures.

@@ -15,10 +15,7 @@ struct TarHeader {
   char type = '0';
   QByteArray link = {};
   QByteArray rawSize = {};  ///< The size field's bytes instead of `size` in octal.
-  QByteArray magic = QByteArray(
-      "ustar\0"
-      "00",
-      8);
+  QByteArray magic = QByteArray("ustar\00000", 8);
   bool badChecksum = false;
 };
 

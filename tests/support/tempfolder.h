@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/text.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>

@@ -14,17 +14,9 @@ inline QByteArray tinyGif(QSize screen, const QRect& frame, int color, int trans
     return QByteArray(1, static_cast<char>(value & 255)) + static_cast<char>(value >> 8);
   };
   QByteArray gif = "GIF89a" + word(screen.width()) + word(screen.height());
-  gif += QByteArray::fromHex(
-      "910000"
-      "000000"
-      "ff0000"
-      "00ff00"
-      "0000ff");
+  gif += QByteArray::fromHex("910000000000ff000000ff000000ff");
   if (transparent >= 0)
-    gif += QByteArray::fromHex(
-               "21f90401"
-               "0000") +
-           static_cast<char>(transparent) + '\0';
+    gif += QByteArray::fromHex("21f904010000") + static_cast<char>(transparent) + '\0';
   gif += ',' + word(frame.x()) + word(frame.y()) + word(frame.width()) + word(frame.height());
   gif += QByteArray::fromHex("0002");
 

