@@ -4,12 +4,16 @@
 
 #include "browser/frmbrowser.h"
 #include "forms/filelistbox.h"
+#include "forms/formicons.h"
 #include "forms/picturebox.h"
+#include "shell/language.h"
 #include "shell/settings.h"
 #include "shell/state.h"
 #include "support/scripteddialogs.h"
 #include "support/stillworld.h"
 #include "support/tempfolder.h"
+#include "support/tinygif.h"
+#include "theme/archive.h"
 
 #include <QAction>
 #include <QLabel>
@@ -23,13 +27,39 @@ namespace quillane {
 /// A browser on a folder of themes, with a program folder and settings of its own.
 class BrowserTest : public TempFolder {
  protected:
-  BrowserTest();
+  BrowserTest() {
+    state.AppTempFolder = makeFolder("temp") + '/';
+    state.ThemesFolder = makeFolder("home") + '/';
+    state.BrowseFolder = makeFolder("themes") + '/';
+    state.PreviewEngine2 = std::make_unique<clsVistrel>(world);
+    state.EditorEngine2 = std::make_unique<clsVistrel>(world);
+    state.PreviewEngine3G = std::make_unique<clsVistrel3G>(world);
+    state.EditorEngine3G = std::make_unique<clsVistrel3G>(world);
+    InitPreview2(*state.PreviewEngine2, state, settings, faults.reporter());
+    InitPreview3G(*state.PreviewEngine3G, state, settings, faults.reporter());
+  }
 
   /// Opens the window on the folder "themes".
-  void open(const QString& commandLine = {});
+  void open(const QString& commandLine = {}) {
+    browser = std::make_unique<frmBrowser>(state, settings, dialogs, world, commandLine);
+  }
+  void openAt(int index) {
+    open();
+    select(index);
+  }
+  void select(int index) {
+    list().clearSelection();
+    list().setSelected(index, true);
+  }
   /// Packs a theme with the given elements, as in "<Text Color=\"0x000000\"/>", into "themes".
   void addTheme(const QString& name, const QByteArray& elements = {}, bool is3G = false,
-                const QStringList& images = {});
+                const QStringList& images = {}) {
+    const QByteArray root = is3G ? "Sony_Ericsson_theme" : "Ericsson_theme";
+    QStringList members{write("pack/theme.xml", '<' + root + '>' + elements + "</" + root + '>')};
+    for (const QString& image : images)
+      members << write("pack/" + image, tinyGif({101, 80}, {0, 0, 101, 80}, 1));
+    packArchive(path("themes/" + name), members);
+  }
   /// Themes of one letter each that set nothing.
   void addThemes(const QString& letters) {
     for (const QChar letter : letters)
@@ -46,16 +76,27 @@ class BrowserTest : public TempFolder {
   }
   FileListBox& list() { return control<FileListBox>("filFiles"); }
   void click(const char* button) { control<QToolButton>(button).click(); }
-  void trigger(const char* item);
+  void trigger(const char* item) {
+    auto& action = control<QAction>(item);
+    ASSERT_TRUE(action.isEnabled()) << item;
+    action.trigger();
+  }
   QString label(const char* name) { return control<QLabel>(name).text(); }
   bool enabled(const char* name) { return control<QWidget>(name).isEnabled(); }
   bool shown(const char* name) { return !control<QWidget>(name).isHidden(); }
   /// Whether something was drawn into a pane since it was cleared.
-  bool painted(const char* pane);
+  bool painted(const char* pane) {
+    const QImage& pixels = control<PictureBox>(pane).surface().image();
+    return pixels.pixel(20, 20) != pixels.pixel(0, 0);
+  }
   /// The balloon's text.
-  QString tip();
+  QString tip() { return browser->findChild<cTooltips*>()->text(); }
   /// 'W' or 'E' as the status icon shows, '-' for none.
-  char statusIcon();
+  char statusIcon() {
+    const QPixmap icon = control<QLabel>("picToolTip").pixmap();
+    if (icon.isNull()) return '-';
+    return icon.toImage() == formPixmap(110).toImage() ? 'E' : 'W';
+  }
 
   PublicState state;
   MemorySettings settings;

@@ -59,8 +59,7 @@ TEST_F(Folders, CancelledBrowsingChangesNothing) {
 
 TEST_F(Folders, RefreshForgetsTheSelection) {
   addTheme("a.thm");
-  open();
-  list().setSelected(0, true);
+  openAt(0);
   addTheme("b.thm");
   trigger("mnuViewItem_3");
   EXPECT_EQ(label("lblNoThemes"), "Number of themes: 2");
@@ -79,6 +78,72 @@ TEST_F(Folders, AnUnreadableFolderIsSaidAndShownEmpty) {
   dialogs.expectMessage("The folder \"" + path("themes/") + "\" cannot be read: *");
   click("btnRefresh");
   EXPECT_EQ(label("lblNoThemes"), "Number of themes: 0");
+}
+
+class BrowserStart : public BrowserTest {};
+
+TEST_F(BrowserStart, SelectsTheThemeOfTheCommandLine) {
+  for (const char* name : {"Blue Sky.thm", "red.thm"})
+    addTheme(name);
+  state.BrowseFolder = path("home/");
+  open('"' + path("themes/Blue Sky.thm") + '"');
+  EXPECT_EQ(state.BrowseFolder, path("themes/"));
+  EXPECT_TRUE(list().selectedItems().isEmpty()) << "quotes and capitals";
+  for (const QString& line : {'"' + path("themes/red.thm") + '"', path("themes/Blue Sky.thm")}) {
+    state.BrowseFolder = path("home/");
+    open(line);
+    EXPECT_EQ(state.BrowseFolder, path("themes/"));
+    EXPECT_EQ(state.ThemeFilePath, QString(line).remove('"'));
+  }
+}
+
+TEST_F(BrowserStart, SaysThatAThemeIsMissing) {
+  for (const auto& [missing, folder] :
+       {std::pair{"nowhere/none.thm", "themes/"}, {"home/none.thm", "home/"}}) {
+    dialogs.expectMessage("Theme " + path(missing) + " could not been found.");
+    open(path(missing));
+    EXPECT_EQ(state.BrowseFolder, path(folder));
+  }
+}
+
+TEST_F(BrowserStart, EndsWithAnEmptyWorkFolderAndKeptFolders) {
+  addTheme("a.thm");
+  const std::pair<const Setting&, QString PublicState::*> kept[] = {
+      {setting::CaptureFolder, &PublicState::CaptureFolder},
+      {setting::ExtractFolder, &PublicState::ExtractFolder},
+      {setting::ExportFolder, &PublicState::ExportFolder},
+      {setting::ImageFolder, &PublicState::ImageFolder},
+      {setting::TARWizFilesFolder, &PublicState::TARWizFilesFolder},
+      {setting::ImageWizOpenFolder, &PublicState::ImageWizOpenFolder},
+      {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder}};
+  for (const auto& [setting, folder] : kept)
+    state.*folder = path(setting.key);
+  openAt(0);
+  ASSERT_FALSE(listOf("temp").isEmpty());
+  browser->close();
+  EXPECT_TRUE(listOf("temp").isEmpty());
+  EXPECT_EQ(settings.read(setting::BrowseFolder), path("themes/"));
+  for (const auto& [setting, folder] : kept)
+    EXPECT_EQ(settings.read(setting), path(setting.key));
+  for (const Setting& unkept :
+       {setting::ThemesFolder, setting::CopyMoveFolder, setting::ImportFolder})
+    EXPECT_EQ(settings.read(unkept), "") << unkept.key;
+  EXPECT_FALSE(state.PreviewEngine2);
+}
+
+TEST_F(BrowserStart, LaysTheWindowOutAsDesigned) {
+  open();
+  const std::pair<const char*, QRect> places[] = {{"btnDropDown", {37, 3, 10, 26}},
+                                                  {"picMenu_3", {125, 314, 115, 95}},
+                                                  {"txtXML", {180, 42, 491, 409}},
+                                                  {"picToolTip", {660, 463, 16, 16}}};
+  for (const auto& [name, place] : places)
+    EXPECT_EQ(control<QWidget>(name).geometry(), place) << name;
+  for (const QToolButton* button : browser->findChildren<QToolButton*>()) {
+    if (!button->objectName().startsWith("btn")) continue;
+    EXPECT_FALSE(button->icon().isNull()) << button->objectName().toStdString();
+    EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
+  }
 }
 
 }  // namespace

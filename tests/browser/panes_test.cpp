@@ -34,8 +34,7 @@ class Panes : public BrowserTest {
 
 TEST_F(Panes, OfferTheImagesOfGeneration2) {
   addTheme("a.thm", kImages2, false, {"b.gif", "s.gif"});
-  open();
-  list().setSelected(0, true);
+  openAt(0);
   const QString capture = "Vistrel &Capture...";
   EXPECT_EQ(menuOf("picStandby"), (QStringList{capture, "E&xtract Background Image..."}));
   EXPECT_EQ(state.CapturePane, 1);
@@ -66,8 +65,7 @@ TEST_F(Panes, OfferTheImagesOf3GWithTheirAsymmetry) {
   addTheme("b.thm", elements, true, {"i.gif"});
   open();
   for (const bool full : {false, true}) {
-    list().clearSelection();
-    list().setSelected(full ? 1 : 0, true);
+    select(full ? 1 : 0);
     for (const auto& [pane, index, without, added] : cases) {
       QStringList wanted = full ? without + added : without;
       QStringList offered = menuOf(pane);
@@ -92,8 +90,7 @@ TEST_F(Panes, OpenNoMenuWithoutOneGoodTheme) {
   EXPECT_FALSE(menuOf("picStandby").isEmpty());
   list().setSelected(1, true);
   EXPECT_TRUE(menuOf("picStandby").isEmpty()) << "two selected";
-  list().clearSelection();
-  list().setSelected(2, true);
+  select(2);
   EXPECT_TRUE(menuOf("picStandby").isEmpty()) << "a failed theme";
 }
 
@@ -122,18 +119,15 @@ TEST_F(Panes, StepTheirSimulatedPhone) {
   addTheme("a.thm");
   addTheme("b.thm", {}, true);
   world.nextRandom = 0.5;
-  open();
-  list().setSelected(0, true);
+  openAt(0);
   EXPECT_EQ(state.PreviewEngine2->SignalStrength, 4);
   EXPECT_EQ(state.PreviewEngine2->DesktopIcon, 5);
   EXPECT_EQ(state.PreviewEngine2->BatteryLevel, 10);
   EXPECT_EQ(state.ThemeLoadCount, 1);
-  list().clearSelection();
-  list().setSelected(1, true);
+  select(1);
   EXPECT_EQ(state.ThemeLoadCount, 2) << "the count is shared";
   world.nextRandom = 0.999;
-  list().clearSelection();
-  list().setSelected(1, true);
+  select(1);
   EXPECT_EQ(state.PreviewEngine3G->DesktopIcon, 9) << "the last three are never selected";
 }
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browserfixture.h"
-#include "theme/archive.h"
 
 #include <QFileInfo>
 #include <QTest>
@@ -12,10 +11,6 @@ namespace {
 
 class Selection : public BrowserTest {
  protected:
-  void select(int index) {
-    list().clearSelection();
-    list().setSelected(index, true);
-  }
   /// Which of the buttons that follow the selection are on.
   QString buttons() {
     QString on;
@@ -44,12 +39,15 @@ TEST_F(Selection, LoadsOneTheme) {
   EXPECT_EQ(label("lblSize"), "2.0 KB (2048 bytes)");
   EXPECT_EQ(buttons(), "PNC");
   EXPECT_EQ(statusIcon(), '-');
+  list().setSelected(1, false);
+  EXPECT_TRUE(shown("picPreview_0") && painted("picStandby")) << "nothing selected, all stays";
+  EXPECT_EQ(buttons(), "PNC");
+  EXPECT_FALSE(control<QAction>("mnuEditItem_1").isEnabled()) << "the menus follow the count";
 }
 
 TEST_F(Selection, EnablesSteppingByThePlaceInTheList) {
   addThemes("ab");
-  open();
-  select(0);
+  openAt(0);
   EXPECT_EQ(buttons(), "-NC");
   EXPECT_FALSE(control<QAction>("mnuNaviItem_1").isEnabled());
   click("btnNext");
@@ -61,7 +59,7 @@ TEST_F(Selection, EnablesSteppingByThePlaceInTheList) {
 }
 
 TEST_F(Selection, WalksWithTheArrowKeys) {
-  addTheme("a.thm");
+  addThemes("ac");
   addTheme("b.thm", {}, true);
   open();
   QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {20, 5});
@@ -72,13 +70,10 @@ TEST_F(Selection, WalksWithTheArrowKeys) {
   EXPECT_FALSE(shown("picPreview_0"));
   EXPECT_TRUE(shown("picPreview_1"));
   EXPECT_TRUE(painted("picStandby2") && painted("picDesktop2"));
-}
 
-TEST_F(Selection, FirstArrowAndRangesBeginWhereTheListStands) {
-  addThemes("abc");
   open();
   QTest::keyClick(&list(), Qt::Key_Down);
-  EXPECT_EQ(list().selectedItems(), QList<int>{0});
+  EXPECT_EQ(list().selectedItems(), QList<int>{0}) << "the first arrow";
   click("btnNext");
   QTest::keyClick(&list(), Qt::Key_Down, Qt::ShiftModifier);
   EXPECT_EQ(list().selectedItems(), (QList<int>{1, 2})) << "from the item stepped to";
@@ -87,8 +82,7 @@ TEST_F(Selection, FirstArrowAndRangesBeginWhereTheListStands) {
 TEST_F(Selection, ReportsDamageWithoutAMessage) {
   addDamaged("a.thm");
   addTheme("b.thm", {}, true);
-  open();
-  select(1);
+  openAt(1);
   select(0);
   EXPECT_EQ(statusIcon(), 'E');
   EXPECT_EQ(tip(),
@@ -105,8 +99,7 @@ TEST_F(Selection, ReportsDamageWithoutAMessage) {
 
 TEST_F(Selection, SelectAllForgetsAFailure) {
   addDamaged("a.thm");
-  open();
-  select(0);
+  openAt(0);
   trigger("mnuEditItem_6");
   EXPECT_EQ(statusIcon(), '-');
   EXPECT_TRUE(control<QAction>("mnuEditItem_1").isEnabled()) << "one is selected, none has failed";
@@ -114,8 +107,7 @@ TEST_F(Selection, SelectAllForgetsAFailure) {
 
 TEST_F(Selection, ReportsAThemeWithoutXml) {
   packArchive(path("themes/a.thm"), {write("pack/x.gif", "GIF")});
-  open();
-  select(0);
+  openAt(0);
   EXPECT_EQ(tip(), "This theme does not contain an XML file.");
   EXPECT_EQ(browser->findChild<cTooltips*>()->title(), "Error in theme file \"a.thm\"");
   EXPECT_EQ(statusIcon(), 'E');
@@ -124,8 +116,7 @@ TEST_F(Selection, ReportsAThemeWithoutXml) {
 
 TEST_F(Selection, WarnsOfMissingImagesAndShowsTheTheme) {
   addTheme("a.thm", "<Wallpaper_image Source=\"w.gif\"/><Title_image Source=\"t.gif\"/>", true);
-  open();
-  select(0);
+  openAt(0);
   EXPECT_EQ(statusIcon(), 'W');
   EXPECT_EQ(tip(),
             "Wallpaper image defined, file \"w.gif\" not found.\r\n"
@@ -138,8 +129,7 @@ TEST_F(Selection, WarnsOfMissingImagesAndShowsTheTheme) {
 
 TEST_F(Selection, SumsSeveral) {
   addThemes("abc");
-  open();
-  select(0);
+  openAt(0);
   list().setSelected(2, true);
   EXPECT_EQ(label("lblNoThemes"), "Number of themes: 3 (Number of selected themes: 2)");
   EXPECT_EQ(label("lblSize"), "4.0 KB (4096 bytes)");
@@ -150,20 +140,9 @@ TEST_F(Selection, SumsSeveral) {
   EXPECT_TRUE(shown("picPreview_0"));
 }
 
-TEST_F(Selection, KeepsThePreviewsWhenNothingIsSelected) {
-  addTheme("a.thm");
-  open();
-  select(0);
-  list().setSelected(0, false);
-  EXPECT_TRUE(shown("picPreview_0") && painted("picStandby"));
-  EXPECT_EQ(buttons(), "--C") << "the buttons stay";
-  EXPECT_FALSE(control<QAction>("mnuEditItem_1").isEnabled()) << "the menus follow the count";
-}
-
 TEST_F(Selection, SelectsAllAndInvertsWithoutLoading) {
   addThemes("ab");
-  open();
-  select(0);
+  openAt(0);
   trigger("mnuEditItem_7");
   EXPECT_EQ(list().selectedItems(), QList<int>{1});
   EXPECT_EQ(label("lblNoThemes"), "Number of themes: 2 (Number of selected themes: 1)");
@@ -184,8 +163,7 @@ TEST_F(Selection, ShowsAFaultOnceInALoad) {
       {write("pack/a.xml", "<Sony_Ericsson_theme><Statusbar_background_image Source=\"bad.gif\"/>"),
        write("pack/bad.gif", "no picture")});
   dialogs.expectMessage("*");
-  open();
-  select(0);
+  openAt(0);
   EXPECT_TRUE(shown("picPreview_1"));
 }
 

@@ -123,11 +123,12 @@ TEST_F(VistrelTest, ScreenImagesAreCentredOrCropped) {
 }
 
 TEST_F(VistrelTest, ThroughAScreenImageShowsItsFillOrTheClearedSurface) {
-  for (const auto& [size, filled] : {std::pair{QSize(101, 80), false},
-                                     {{50, 40}, true},
-                                     {{50, 100}, true},
-                                     {{200, 100}, false},
-                                     {{200, 60}, true}}) {
+  const std::pair<QSize, bool> sizes[] = {{{101, 80}, false},
+                                          {{50, 40}, true},
+                                          {{50, 100}, true},
+                                          {{200, 100}, false},
+                                          {{200, 60}, true}};
+  for (const auto& [size, filled] : sizes) {
     const QString file = write("clear.gif", tinyGif(size, {{}, size}, 1, 1));
     background(file);
     engine.DrawStandby();

@@ -20,17 +20,10 @@ class PictureTest : public TempFolder {
 };
 
 TEST_F(PictureTest, SizesForPlacementAreCutFromHimetric) {
-  for (const auto& [pixels, seen] : {std::pair{0, 0},
-                                     {1, 0},
-                                     {2, 2},
-                                     {15, 15},
-                                     {16, 15},
-                                     {27, 26},
-                                     {40, 39},
-                                     {80, 80},
-                                     {101, 101},
-                                     {128, 128},
-                                     {4096, 4096}}) {
+  const std::pair<int, int> sizes[] = {{0, 0},     {1, 0},     {2, 2},      {15, 15},
+                                       {16, 15},   {27, 26},   {40, 39},    {80, 80},
+                                       {101, 101}, {128, 128}, {4096, 4096}};
+  for (const auto& [pixels, seen] : sizes) {
     EXPECT_EQ(Picture(QImage(pixels, 1, QImage::Format_RGB32)).width(), seen) << pixels;
     EXPECT_EQ(Picture(QImage(1, pixels, QImage::Format_RGB32)).height(), seen) << pixels;
   }

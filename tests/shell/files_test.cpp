@@ -3,10 +3,13 @@
 #include "shell/files.h"
 
 #include "shell/ini.h"
+#include "shell/instance.h"
 #include "shell/listing.h"
 #include "shell/places.h"
 #include "shell/seed.h"
 #include "support/tempfolder.h"
+
+#include <QLockFile>
 
 namespace quillane {
 
@@ -114,6 +117,31 @@ TEST_F(Seed, ReportsOnceWhatCannotBeCopiedAndGoesOn) {
   EXPECT_TRUE(log.texts().first().contains(path("home/My Themes")))
       << log.texts().first().toStdString();
   EXPECT_TRUE(log.texts().first().endsWith("(And 1 more.)"));
+}
+
+class Instance : public TempFolder {};
+
+TEST_F(Instance, IsOneAtATime) {
+  QLockFile first(path("lock"));
+  QLockFile second(path("lock"));
+  EXPECT_TRUE(takeInstanceLock(first));
+  EXPECT_FALSE(takeInstanceLock(second));
+  first.unlock();
+  EXPECT_TRUE(takeInstanceLock(second));
+}
+
+TEST_F(Instance, DeadAndDamagedLocksDoNotCount) {
+  for (const QByteArray& left :
+       {QByteArray(), QByteArray("%"), QByteArray("999999999\nquillane\n")}) {
+    QLockFile lock(write("lock", left));
+    EXPECT_TRUE(takeInstanceLock(lock)) << left.toStdString();
+  }
+}
+
+TEST_F(Instance, SaysWhereALockCannotBeMade) {
+  QLockFile lock(path("missing/lock"));
+  EXPECT_EQ(faultNumberOf([&] { takeInstanceLock(lock); }),
+            static_cast<int>(FaultNumber::NoPermission));
 }
 
 }  // namespace

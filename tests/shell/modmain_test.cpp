@@ -33,10 +33,6 @@ class Start : public TempFolder {
     return Main(state, settings, places, world, screen, log.reporter());
   }
   QString home(const QString& name = {}) const { return path("home") + '/' + name; }
-  void addSender() {
-    const QString sender = write("system/bluetooth-sendto", "#!/bin/sh\n");
-    QFile::setPermissions(sender, QFile::permissions(sender) | QFile::ExeUser);
-  }
 
   PublicState state;
   MemorySettings settings;
@@ -146,7 +142,8 @@ TEST_F(Start, TakesTheSwitchesAndFilesFromTheSettings) {
 TEST_F(Start, ShowsTheInfraredIconOfGeneration2WithASender) {
   start();
   EXPECT_FALSE(state.PreviewEngine2->ShowIRIcon);
-  addSender();
+  const QString sender = write("system/bluetooth-sendto", "#!/bin/sh\n");
+  QFile::setPermissions(sender, QFile::permissions(sender) | QFile::ExeUser);
   start();
   EXPECT_TRUE(state.PreviewEngine2->ShowIRIcon && state.EditorEngine2->ShowIRIcon);
   settings.write(setting::ShowIRIcon, "0");

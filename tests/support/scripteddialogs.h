@@ -4,9 +4,11 @@
 
 #include "forms/dialogs.h"
 
+#include <QList>
+#include <QString>
 #include <gtest/gtest.h>
 
-#include <deque>
+#include <utility>
 
 namespace quillane {
 
@@ -15,48 +17,34 @@ namespace quillane {
 class ScriptedDialogs : public Dialogs {
  public:
   ~ScriptedDialogs() override {
-    for (const Step& step : script_)
-      ADD_FAILURE() << "not asked: " << step.text.toStdString();
+    for (const auto& [text, answer] : script_)
+      ADD_FAILURE() << "not asked: " << text.toStdString();
   }
 
   int beeps = 0;
 
-  void expectMessage(const QString& text) { script_.push_back({Kind::Message, text, {}}); }
+  /// With a "*" at its end only the part of the text before that counts.
+  void expectMessage(const QString& text) { script_.push_back({text, {}}); }
   void expectFolder(const QString& prompt, const QString& answer) {
-    script_.push_back({Kind::Folder, prompt, answer});
+    script_.push_back({prompt, answer});
   }
 
-  void message(QWidget*, MessageIcon, const QString&, const QString& text) override {
-    take(Kind::Message, text);
-  }
+  void message(QWidget*, MessageIcon, const QString&, const QString& text) override { take(text); }
   QString chooseFolder(QWidget*, const QString& prompt, const QString&) override {
-    return take(Kind::Folder, prompt);
+    return take(prompt);
   }
   void beep() override { ++beeps; }
 
  private:
-  enum class Kind { Message, Folder };
-  struct Step {
-    Kind kind;
-    QString text;  ///< With a "*" at its end only the part before that counts.
-    QString answer;
-  };
-
-  static bool matches(const QString& expected, const QString& text) {
-    return expected.endsWith('*') ? text.startsWith(expected.chopped(1)) : text == expected;
-  }
-
-  QString take(Kind kind, const QString& text) {
-    if (script_.empty() || script_.front().kind != kind || !matches(script_.front().text, text)) {
+  QString take(const QString& text) {
+    const auto [expected, answer] =
+        script_.isEmpty() ? std::pair<QString, QString>() : script_.takeFirst();
+    if (!expected.endsWith('*') ? text != expected : !text.startsWith(expected.chopped(1)))
       ADD_FAILURE() << "unexpected dialog: " << text.toStdString();
-      return {};
-    }
-    const QString answer = script_.front().answer;
-    script_.pop_front();
     return answer;
   }
 
-  std::deque<Step> script_;
+  QList<std::pair<QString, QString>> script_;
 };
 
 }  // namespace quillane

@@ -18,39 +18,26 @@ namespace {
 
 constexpr qint64 kMiB = 1 << 20;
 
-/// Keeps the members in memory.
-class MemorySink final : public MemberSink {
+/// Takes everything and keeps nothing.
+class NullSink final : public MemberSink {
  public:
-  int begin(const ArchiveMember& member, qint64) override {
-    name_ = member.name;
-    files[name_] = QByteArray(member.size, '\0');
-    return Success;
-  }
-  int write(qint64 offset, QByteArrayView bytes) override {
-    files[name_].replace(offset, bytes.size(), bytes.toByteArray());
-    return Success;
-  }
+  int begin(const ArchiveMember&, qint64) override { return Success; }
+  int write(qint64, QByteArrayView) override { return Success; }
   int end() override { return Success; }
-
-  QMap<QString, QByteArray> files;
-
- private:
-  QString name_;
 };
 
 struct Reading {
   int code;
   QStringList names;
-  QMap<QString, QByteArray> files;
 };
 
 Reading readBytes(const QByteArray& bytes) {
   QBuffer device;
   device.setData(bytes);
   device.open(QIODevice::ReadOnly);
-  MemorySink sink;
+  NullSink sink;
   const ArchiveResult result = readArchive(device, sink);
-  Reading reading{result.code, {}, sink.files};
+  Reading reading{result.code, {}};
   for (const ArchiveMember& member : result.members)
     reading.names += member.name;
   return reading;
@@ -158,10 +145,7 @@ TEST(ReadArchive, ReadsNamesOfEveryForm) {
       {"Windows-1252", "\xE4\x80.gif", "\u00E4\u20AC.gif"},
       {"UTF-8 cut at its end", "a\xC3", "a\u00C3"},
       {"byte order mark", "\xEF\xBB\xBFz", QString(QChar(0xFEFF)) + 'z'},
-      {"overlong UTF-8 separator",
-       "a\xC0\xAF"
-       "b",
-       "a\u00C0\u00AFb"},
+      {"overlong UTF-8 separator", "a\xC0\xAFz", "a\u00C0\u00AFz"},
       {"blanks and controls", " \t\n", " \t\n"},
       {"255 bytes", longName, longName},
       {"256 bytes", 'n' + longName, ""},
@@ -192,21 +176,6 @@ TEST(ReadArchive, TakesWhatItCanOfOddRecords) {
   EXPECT_TRUE(malformed.names.contains("b"));
 }
 
-TEST(ReadArchive, ExpandsSparseMembersWithinTheirSize) {
-  const auto sparse = [](const QByteArray& realSize, const QByteArray& map) {
-    const QByteArray records = TarBuilder::paxRecord("GNU.sparse.size", realSize) +
-                               TarBuilder::paxRecord("GNU.sparse.numblocks", "1") +
-                               TarBuilder::paxRecord("GNU.sparse.map", map);
-    return TarBuilder().pax(records).file("s", "data").file("t", "t").end().bytes();
-  };
-  const Reading reading = readBytes(sparse("20", "10,4"));
-  EXPECT_EQ(reading.code, Success);
-  EXPECT_EQ(reading.files["s"], QByteArray(10, '\0') + "data" + QByteArray(6, '\0'));
-  EXPECT_EQ(reading.files["t"], "t");
-  EXPECT_EQ(readBytes(sparse("16777217", "10,4")).code, Damaged);
-  EXPECT_EQ(readBytes(sparse("12", "10,4")).code, Damaged);
-}
-
 /// Gives what it has and then fails.
 class FailingDevice final : public QIODevice {
  public:
@@ -230,7 +199,7 @@ class FailingDevice final : public QIODevice {
 TEST(ReadArchive, TellsWhenTheDeviceFails) {
   for (const qsizetype size : {qsizetype{0}, kSecondHeader, kSecondBytes + 100}) {
     FailingDevice device(twoFiles().cut(size).bytes());
-    MemorySink sink;
+    NullSink sink;
     EXPECT_EQ(readArchive(device, sink).code, ReadFailed) << size;
   }
 }
@@ -250,6 +219,20 @@ TEST_F(Archive, ExtractsFilesWithTheirTimeAndCommonRights) {
   EXPECT_EQ(info.lastModified().toSecsSinceEpoch(), TarBuilder::kTime);
   EXPECT_EQ(info.permissions() & ~(QFile::ReadUser | QFile::WriteUser),
             QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+}
+
+TEST_F(Archive, ExpandsSparseMembersWithinTheirSize) {
+  const auto sparse = [](const QByteArray& realSize, const QByteArray& map) {
+    const QByteArray records = TarBuilder::paxRecord("GNU.sparse.size", realSize) +
+                               TarBuilder::paxRecord("GNU.sparse.numblocks", "1") +
+                               TarBuilder::paxRecord("GNU.sparse.map", map);
+    return TarBuilder().pax(records).file("s", "data").file("t", "t").end();
+  };
+  EXPECT_EQ(extract(sparse("20", "10,4")), Success);
+  EXPECT_EQ(read("out/s"), QByteArray(10, '\0') + "data" + QByteArray(6, '\0'));
+  EXPECT_EQ(read("out/t"), "t");
+  EXPECT_EQ(extract(sparse("16777217", "10,4")), Damaged);
+  EXPECT_EQ(extract(sparse("12", "10,4")), Damaged);
 }
 
 TEST_F(Archive, TakesTheLaterOfTwoMembers) {

@@ -138,11 +138,13 @@ TEST_F(Render, UnknownScreenIsWrongUsage) {
   EXPECT_FALSE(QFile::exists(path("out")));
 }
 
-TEST_F(Render, MissingLanguageFile) {
-  const QString file = path("none.lng");
-  EXPECT_EQ(
-      runTool({"render", two_, "--out", path("out"), "--language", file}),
-      (ToolRun{NotDone, "", "thmtool render: File \"" + file.toStdString() + "\" not found.\n"}));
+TEST_F(Render, TellsWhatIsNotFound) {
+  const std::string file = path("none/x").toStdString();
+  EXPECT_EQ(runTool({"render", two_, "--out", path("out"), "--language", path("none/x")}),
+            (ToolRun{NotDone, "", "thmtool render: File \"" + file + "\" not found.\n"}));
+  const std::string folder = path("none").toStdString();
+  EXPECT_EQ(runTool({"thumbnail", two_, path("none/x"), "64"}),
+            (ToolRun{NotDone, "", "thmtool thumbnail: Folder \"" + folder + "\" not found.\n"}));
 }
 
 TEST_F(Render, FaultKeepsWhatWasPainted) {
@@ -183,14 +185,6 @@ TEST_F(Thumbnail, ShowsTheStandbyScreen) {
   // All but the lowest quarter, where the clock is.
   EXPECT_EQ(thumbnail.copy(0, 0, 256, 240),
             standby.scaled(256, 320).copy(0, 0, 256, 240).convertToFormat(thumbnail.format()));
-}
-
-TEST_F(Thumbnail, UnwritableTarget) {
-  const QString theme = theme2("");
-  EXPECT_EQ(
-      runTool({"thumbnail", theme, path("none/t.png"), "64"}),
-      (ToolRun{NotDone, "",
-               "thmtool thumbnail: Folder \"" + path("none").toStdString() + "\" not found.\n"}));
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/text.h"
+#include "theme/codepage.h"
 #include "theme/color.h"
 
-#include "support/text.h"
+#include <QStringDecoder>
 
 namespace quillane {
 
@@ -43,6 +45,30 @@ TEST(Color, RefusesWhatIsNoNumber) {
     EXPECT_EQ(faultNumberOf([&] { colorValueOf(html); }), 13) << html;
   for (const char* const value : {"", "red", "1.5", "4294967296", "-2147483649"})
     EXPECT_EQ(faultNumberOf([&] { ColorToHtml(value); }), 13) << value;
+}
+
+QByteArray everyByte() {
+  QByteArray bytes;
+  for (int byte = 0; byte < 256; ++byte)
+    bytes.append(static_cast<char>(byte));
+  return bytes;
+}
+
+TEST(CodePage, KeepsEveryByte) {
+  const QString text = fromCodePage(everyByte());
+  EXPECT_EQ(text.size(), 256);
+  EXPECT_EQ(toCodePage(text), everyByte());
+}
+
+TEST(CodePage, AgreesWithTheToolkitWhereThatKnowsIt) {
+  QStringDecoder decoder("windows-1252");
+  if (!decoder.isValid()) GTEST_SKIP() << "This build of Qt has no such decoder.";
+  EXPECT_EQ(fromCodePage(everyByte()), QString(decoder(everyByte())));
+}
+
+TEST(CodePage, WritesAQuestionMarkForACharacterOutside) {
+  EXPECT_EQ(toCodePage(u"a\u0080b\u20AC\u0416\U0001F600c"), QByteArray("a?b\x80??c"));
+  EXPECT_EQ(toCodePage(QString(QChar(0xD83D)) + u'x'), QByteArray("?x"));
 }
 
 }  // namespace
