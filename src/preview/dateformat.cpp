@@ -66,13 +66,13 @@ QString shortName(QString name) {
   return name;
 }
 
-/// Days from Sunday, 0 to 6.
-int dayInWeek(const QDate& date) {
-  return date.dayOfWeek() % 7;
+/// Days from the first day of the week, 0 to 6.
+int dayInWeek(const QDate& date, Qt::DayOfWeek firstDay) {
+  return (date.dayOfWeek() - static_cast<int>(firstDay) + 7) % 7;
 }
 
-int weekOfYear(const QDate& date) {
-  return (date.dayOfYear() - 1 + dayInWeek(QDate(date.year(), 1, 1))) / 7 + 1;
+int weekOfYear(const QDate& date, Qt::DayOfWeek firstDay) {
+  return (date.dayOfYear() - 1 + dayInWeek(QDate(date.year(), 1, 1), firstDay)) / 7 + 1;
 }
 
 QString dayText(const QDate& date, qsizetype places, const QLocale& locale) {
@@ -93,7 +93,8 @@ int hourOn12HourClock(int hour) {
 
 }  // namespace
 
-QString formatDate(const QDateTime& time, const QString& pattern, const QLocale& locale) {
+QString formatDate(const QDateTime& time, const QString& pattern, const QLocale& locale,
+                   Qt::DayOfWeek firstDay) {
   const QDate date = time.date();
   const QTime clock = time.time();
   const QList<Piece> pieces = piecesOf(pattern);
@@ -121,7 +122,8 @@ QString formatDate(const QDateTime& time, const QString& pattern, const QLocale&
         out += padded(places == 2 ? date.year() % 100 : date.year(), places);
         break;
       case 'w':
-        out += QString::number(places == 2 ? weekOfYear(date) : dayInWeek(date) + 1);
+        out += QString::number(places == 2 ? weekOfYear(date, firstDay)
+                                           : dayInWeek(date, firstDay) + 1);
         break;
       case 'h':
         out += padded(halfDays ? hourOn12HourClock(clock.hour()) : clock.hour(), places);

@@ -4,6 +4,7 @@
 
 #include "preview/faces.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillane {
@@ -31,6 +32,18 @@ void Surface::Cls() {
 int Surface::TextHeight(const QString& text) const {
   const SizedFace& face = Faces::shared().face(QStringLiteral("MS Sans Serif"), fontSize_, false);
   return face.cellHeight() * static_cast<int>(splitLines(text).size());
+}
+
+int Surface::TextWidth(const QString& text) const {
+  SizedFace& face = Faces::shared().face(QStringLiteral("MS Sans Serif"), fontSize_, false);
+  int widest = 0;
+  for (const QString& line : splitLines(text)) {
+    int width = 0;
+    for (const char32_t character : line.toUcs4())
+      width += face.glyph(character).advance;
+    widest = std::max(widest, width);
+  }
+  return widest;
 }
 
 void Surface::PaintPicture(const Picture& picture, double x, double y) {
