@@ -14,6 +14,7 @@
 
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 
 namespace quillane {
@@ -65,6 +66,9 @@ frmBrowser::frmBrowser(PublicState& state, SettingsStore& settings, Dialogs& dia
       mnuPopup3_(new QMenu(this)),
       mnuPopup2_(new QMenu(this)) {
   ui_->setupUi(this);
+  mnuPopup_->setObjectName(QStringLiteral("mnuPopup"));
+  mnuPopup2_->setObjectName(QStringLiteral("mnuPopup2"));
+  mnuPopup3_->setObjectName(QStringLiteral("mnuPopup3"));
   connectSignals();
   Form_Load(commandLine);
 }
@@ -156,15 +160,18 @@ void frmBrowser::Form_Unload() {
 }
 
 void frmBrowser::keyPressEvent(QKeyEvent* event) {
-  state_.ShiftDown = event->modifiers().testFlag(Qt::ShiftModifier);
-  state_.CtrlDown = event->modifiers().testFlag(Qt::ControlModifier);
+  keepKeyState(*event);
   QMainWindow::keyPressEvent(event);
 }
 
 void frmBrowser::keyReleaseEvent(QKeyEvent* event) {
-  state_.ShiftDown = event->modifiers().testFlag(Qt::ShiftModifier);
-  state_.CtrlDown = event->modifiers().testFlag(Qt::ControlModifier);
+  keepKeyState(*event);
   QMainWindow::keyReleaseEvent(event);
+}
+
+void frmBrowser::keepKeyState(const QKeyEvent& event) {
+  state_.ShiftDown = event.modifiers().testFlag(Qt::ShiftModifier);
+  state_.CtrlDown = event.modifiers().testFlag(Qt::ControlModifier);
 }
 
 }  // namespace quillane

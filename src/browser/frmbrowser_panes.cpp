@@ -11,6 +11,7 @@
 #include "shell/dynamics.h"
 #include "shell/files.h"
 #include "shell/state.h"
+#include "theme/archive.h"
 #include "theme/load.h"
 #include "ui_frmbrowser.h"
 
@@ -18,6 +19,9 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QSet>
+
+#include <optional>
+#include <span>
 
 namespace quillane {
 
@@ -63,10 +67,7 @@ void frmBrowser::LoadTheme() {
   const std::optional<LoadedTheme> theme =
       loadTheme(state_.AppTempFolder, state_.ImageState, faults.reporter());
   if (!theme) {
-    TipText = QStringLiteral("This theme does not contain an XML file.");
-    TipTitle = QStringLiteral("Error in theme file \"%1\"")
-                   .arg(SplitPath(state_.ThemeFilePath, PathPart::Name));
-    TipSeverity = Severity::Error;
+    setFailure(missingXmlError(SplitPath(state_.ThemeFilePath, PathPart::Name)));
     SelectedCount = 0;
     return;
   }
@@ -91,7 +92,7 @@ void frmBrowser::LoadTheme() {
   TipTitle =
       QStringLiteral("Errors in theme \"%1\"").arg(ui_->filFiles->item(state_.SelectedIndex));
   TipText = theme->warnings.join(QLatin1String("\r\n"));
-  TipSeverity = Severity::Warning;
+  TipSeverity = TipIcon::Warning;
 }
 
 template <class Engine>

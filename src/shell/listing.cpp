@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -37,12 +38,13 @@ QStringList listFiles(const QString& folder, const QString& ending) {
   fs::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
   if (error) refuse(folder, error);
   for (const fs::directory_iterator end; entry != end; entry.increment(error)) {
-    if (error) refuse(folder, error);
     const QByteArray bytes(entry->path().filename().c_str());
     const QString name = QFile::decodeName(bytes);
     if (QFile::encodeName(name) == bytes && isListed(*entry, name, ending))
       found.emplace_back(name.toCaseFolded(), name);
   }
+  // A step that fails ends the walk.
+  if (error) refuse(folder, error);
   std::sort(found.begin(), found.end());
   QStringList names;
   names.reserve(static_cast<qsizetype>(found.size()));

@@ -363,12 +363,12 @@ TEST_F(Archive, TellsWhenTheDiskIsFull) {
 }
 
 TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
-  EXPECT_EQ(archiveErrorText(Success, u"a.thm"_s), u""_s);
-  EXPECT_EQ(archiveErrorText(Damaged, u"a%1.thm"_s), u"Some files in \"a%1.thm\" are corrupted."_s);
+  EXPECT_EQ(archiveError(Success, u"a.thm"_s).text, u""_s);
+  EXPECT_EQ(archiveError(Damaged, u"a%1.thm"_s).text, u"Some files in \"a%1.thm\" are corrupted."_s);
   EXPECT_EQ(
-      archiveErrorText(NotReadable, u"a.thm"_s),
+      archiveError(NotReadable, u"a.thm"_s).text,
       u"File \"a.thm\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list."_s);
-  EXPECT_EQ(archiveErrorText(99, u"a.thm"_s), u"UnTAR operation error 99"_s);
+  EXPECT_EQ(archiveError(99, u"a.thm"_s).text, u"UnTAR operation error 99"_s);
 }
 
 }  // namespace
