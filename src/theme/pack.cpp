@@ -66,7 +66,8 @@ QByteArray memberBlocks(Flavour flavour, archive_entry* entry, const QByteArray&
   const std::unique_ptr<archive, WriterRelease> writer(archive_write_new());
   const bool isOpen =
       flavour(writer.get()) == ARCHIVE_OK &&
-      archive_write_set_options(writer.get(), "hdrcharset=BINARY") == ARCHIVE_OK &&
+      // Only records have a character set; the plain flavour warns that it has none.
+      archive_write_set_options(writer.get(), "hdrcharset=BINARY") >= ARCHIVE_FAILED &&
       archive_write_add_filter_none(writer.get()) == ARCHIVE_OK &&
       archive_write_set_bytes_per_block(writer.get(), 0) == ARCHIVE_OK &&
       archive_write_set_bytes_in_last_block(writer.get(), 1) == ARCHIVE_OK &&
