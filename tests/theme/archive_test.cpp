@@ -364,7 +364,8 @@ TEST_F(Archive, TellsWhenTheDiskIsFull) {
 
 TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
   EXPECT_EQ(archiveError(Success, u"a.thm"_s).text, u""_s);
-  EXPECT_EQ(archiveError(Damaged, u"a%1.thm"_s).text, u"Some files in \"a%1.thm\" are corrupted."_s);
+  EXPECT_EQ(archiveError(Damaged, u"a%1.thm"_s).text,
+            u"Some files in \"a%1.thm\" are corrupted."_s);
   EXPECT_EQ(
       archiveError(NotReadable, u"a.thm"_s).text,
       u"File \"a.thm\" not found or no read permission.\r\n\r\nPress F5 to refresh themes list."_s);

@@ -163,9 +163,9 @@ TEST_F(Render, UnknownScreenIsWrongUsage) {
 
 TEST_F(Render, MissingLanguageFile) {
   const QString file = path(u"none.lng"_s);
-  EXPECT_EQ(runTool({u"render"_s, two_, u"--out"_s, path(u"out"_s), u"--language"_s, file}),
-            (ToolRun{NotDone, "",
-                     "thmtool render: File \"" + file.toStdString() + "\" not found.\n"}));
+  EXPECT_EQ(
+      runTool({u"render"_s, two_, u"--out"_s, path(u"out"_s), u"--language"_s, file}),
+      (ToolRun{NotDone, "", "thmtool render: File \"" + file.toStdString() + "\" not found.\n"}));
 }
 
 TEST_F(Render, FaultKeepsWhatWasPainted) {
