@@ -22,7 +22,7 @@ namespace quillane {
 namespace {
 
 constexpr int kLongestSide = 4096;
-constexpr qsizetype kRememberedBytes = 8 * 1024 * 1024;
+constexpr qsizetype kRememberedBytes = 8'388'608;
 constexpr int kAllocationLimit = 64;  // MB: a picture of the longest sides at 32 bits.
 
 /// Pixels as the placement rules see them: HIMETRIC at 96 dots per inch, rounded half up, divided
@@ -106,7 +106,7 @@ Picture decodeOnce(const QByteArray& bytes) {
   thread_local QCache<QByteArray, Picture> decoded(kRememberedBytes);
   if (const Picture* known = decoded.object(bytes)) return *known;
 
-  const Picture picture(decode(bytes));
+  Picture picture(decode(bytes));
   const qsizetype cost = bytes.size() + picture.image().sizeInBytes();
   decoded.insert(bytes, new Picture(picture), cost);
   return picture;

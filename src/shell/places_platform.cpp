@@ -30,7 +30,7 @@ Places placesOfDesktop(const QString& applicationFolder) {
 
 QString findSender(const QString& systemFolder) {
   for (const char* sender : kSenders) {
-    const QString path = systemFolder + QLatin1Char('/') + QLatin1String(sender);
+    QString path = systemFolder + QLatin1Char('/') + QLatin1String(sender);
     const QFileInfo program(path);
     if (program.isFile() && program.isExecutable()) return path;
   }
