@@ -14,15 +14,17 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 void frmBrowser::run(const QString& event, void (frmBrowser::*procedure)()) {
-  eventProcedure(dialogs_, this, QStringLiteral("in Quillane.frmBrowser.%1 ").arg(event),
+  eventProcedure(dialogs_, this, u"in Quillane.frmBrowser.%1 "_s.arg(event),
                  [this, procedure] { (this->*procedure)(); });
 }
 
 void frmBrowser::connectSignals() {
   connect(ui_->area, &FormArea::Paint, this, &frmBrowser::Form_Paint);
   connect(ui_->filFiles, &FileListBox::Click, this,
-          [this] { run(QStringLiteral("filFiles_Click"), &frmBrowser::filFiles_Click); });
+          [this] { run(u"filFiles_Click"_s, &frmBrowser::filFiles_Click); });
   connect(ui_->filFiles, &FileListBox::PathChange, this, &frmBrowser::filFiles_PathChange);
   connectButtons();
   connectMenus();
@@ -44,7 +46,7 @@ void frmBrowser::connectButtons() {
   };
   for (const auto& [button, procedure] : rows)
     connect(button, &QAbstractButton::clicked, this,
-            [this, event = button->objectName() + QLatin1String("_Click"), procedure = procedure] {
+            [this, event = button->objectName() + "_Click"_L1, procedure = procedure] {
               run(event, procedure);
             });
 }
@@ -64,7 +66,7 @@ void frmBrowser::connectMenus() {
   };
   for (const auto& [item, procedure] : rows)
     connect(item, &QAction::triggered, this,
-            [this, event = item->objectName() + QLatin1String("_Click"), procedure = procedure] {
+            [this, event = item->objectName() + "_Click"_L1, procedure = procedure] {
               run(event, procedure);
             });
   connect(ui_->mnuFileItem_10, &QAction::triggered, this, &QWidget::close);

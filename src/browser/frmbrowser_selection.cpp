@@ -15,6 +15,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The drawing boxes that `ClearPreview` clears; those of 3G keep theirs.
@@ -60,7 +62,7 @@ void frmBrowser::enableForOneTheme() {
 }
 
 void frmBrowser::extractTheme() {
-  DeleteFiles(state_.AppTempFolder + QLatin1String("*.*"));
+  DeleteFiles(state_.AppTempFolder + "*.*"_L1);
   const ArchiveResult result = extractArchive(state_.ThemeFilePath, state_.AppTempFolder);
   if (result.code != 0) {
     setFailure(archiveError(result.code, SplitPath(state_.ThemeFilePath, PathPart::Name)));
@@ -110,7 +112,7 @@ void frmBrowser::showSeveralSelected() {
 void frmBrowser::showSelectedCounts() {
   showThemeCount();
   ui_->lblNoThemes->setText(ui_->lblNoThemes->text() +
-                            QStringLiteral(" (Number of selected themes: %1)").arg(SelectedCount));
+                            u" (Number of selected themes: %1)"_s.arg(SelectedCount));
   ui_->lblSize->setText(sizeText(selectedBytes()));
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace quillane {
+
 namespace {
 
 /// A character of a text once the ampersands have been read.

@@ -19,6 +19,9 @@ static void loadIconResources() {
 }
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kLongestSide = 4096;
@@ -134,9 +137,8 @@ int Picture::height() const {
 Picture LoadPicture(const QString& path) {
   Picture picture = decodeOnce(readFile(path));
   if (picture.isNull())
-    throw Fault(
-        FaultNumber::BadPicture,
-        QStringLiteral("\"%1\" is no GIF, JPEG, BMP or icon file that can be shown.").arg(path));
+    throw Fault(FaultNumber::BadPicture,
+                u"\"%1\" is no GIF, JPEG, BMP or icon file that can be shown."_s.arg(path));
   return picture;
 }
 
@@ -146,10 +148,9 @@ Picture LoadResourcePicture(int id) {
   if (const auto known = decoded.constFind(id); known != decoded.cend()) return *known;
 
   loadIconResources();
-  QImage image(QStringLiteral(":/CUSTOM/%1.png").arg(id), "png");
+  QImage image(u":/CUSTOM/%1.png"_s.arg(id), "png");
   if (image.isNull())
-    throw Fault(FaultNumber::ResourceNotFound,
-                QStringLiteral("The numbered icon %1 does not exist.").arg(id));
+    throw Fault(FaultNumber::ResourceNotFound, u"The numbered icon %1 does not exist."_s.arg(id));
   return *decoded.insert(id, Picture(std::move(image)));
 }
 

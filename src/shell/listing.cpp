@@ -14,20 +14,21 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace fs = std::filesystem;
 
 bool isListed(const fs::directory_entry& entry, const QString& name, const QString& ending) {
-  if (name.startsWith(QLatin1Char('.')) || !name.endsWith(ending, Qt::CaseInsensitive))
-    return false;
+  if (name.startsWith(u'.') || !name.endsWith(ending, Qt::CaseInsensitive)) return false;
   std::error_code error;
   return entry.is_regular_file(error);
 }
 
 [[noreturn]] void refuse(const QString& folder, const std::error_code& error) {
-  throw Fault(FaultNumber::NoPermission, QStringLiteral("The folder \"%1\" cannot be read: %2.")
-                                             .arg(folder, QString::fromStdString(error.message())));
+  throw Fault(FaultNumber::NoPermission, u"The folder \"%1\" cannot be read: %2."_s.arg(
+                                             folder, QString::fromStdString(error.message())));
 }
 
 }  // namespace
