@@ -26,7 +26,7 @@ void frmSplash::setStatus(const QString& text) {
 }
 
 QString versionCaption() {
-  return u"Version: %1.%2.%3 Beta 2"_s.arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision);
+  return u"Version: %1 Beta 2"_s.arg(QLatin1String(kVersion));
 }
 
 }  // namespace quillane

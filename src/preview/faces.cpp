@@ -102,6 +102,13 @@ SizedFace::SizedFace(FT_Face face, bool doubled) : face_(face, &freeFace), doubl
       ascent_ + scaled(metrics != nullptr ? metrics->usWinDescent : -face->descender, *face);
 }
 
+int SizedFace::widthOf(const QString& line) {
+  int width = 0;
+  for (const char32_t character : line.toUcs4())
+    width += glyph(character).advance;
+  return width;
+}
+
 const Glyph& SizedFace::glyph(char32_t character) {
   if (const auto known = glyphs_.find(character); known != glyphs_.end()) return known->second;
   return glyphs_.emplace(character, render(character)).first->second;

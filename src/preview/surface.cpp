@@ -40,12 +40,8 @@ int Surface::TextHeight(const QString& text) const {
 int Surface::TextWidth(const QString& text) const {
   SizedFace& face = Faces::shared().face(u"MS Sans Serif"_s, fontSize_, false);
   int widest = 0;
-  for (const QString& line : splitLines(text)) {
-    int width = 0;
-    for (const char32_t character : line.toUcs4())
-      width += face.glyph(character).advance;
-    widest = std::max(widest, width);
-  }
+  for (const QString& line : splitLines(text))
+    widest = std::max(widest, face.widthOf(line));
   return widest;
 }
 
