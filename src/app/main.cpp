@@ -19,6 +19,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace quillane {
 
 namespace {
@@ -51,17 +53,17 @@ class DesktopScreen : public StartScreen {
 
 /// The command line as one text, as a person typed it: themes with blanks need no quotes.
 QString commandLine() {
-  return QCoreApplication::arguments().mid(1).join(QLatin1Char(' '));
+  return QCoreApplication::arguments().mid(1).join(u' ');
 }
 
 int run() {
   DesktopDialogs dialogs;
   const FaultReporter report = [&dialogs](const Fault& fault) {
-    showFault(dialogs, nullptr, fault, QStringLiteral("in Quillane.modMain.Main "));
+    showFault(dialogs, nullptr, fault, u"in Quillane.modMain.Main "_s);
   };
   const Places places = placesOfDesktop(QCoreApplication::applicationDirPath());
   QDir().mkpath(places.programFolder);
-  QLockFile lock(places.programFolder + QLatin1String("/quillane.lock"));
+  QLockFile lock(places.programFolder + "/quillane.lock"_L1);
   SystemWorld world;
   PublicState state;
   try {
@@ -84,8 +86,8 @@ int run() {
 
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Quillane"));
-  QApplication::setDesktopFileName(QStringLiteral("quillane"));
+  QApplication::setApplicationName(u"Quillane"_s);
+  QApplication::setDesktopFileName(u"quillane"_s);
   QApplication::setWindowIcon(quillane::programIcon());
   return quillane::run();
 }

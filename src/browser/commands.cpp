@@ -12,6 +12,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ToolPicture {
@@ -67,8 +69,7 @@ bool isOn(const MenuRule& rule, int selectedCount, bool themeFailed) {
 void dressButtons(QWidget& browser) {
   for (const ToolPicture& row : kToolPictures)
     browser.findChild<QToolButton*>(QLatin1String(row.button))->setIcon(formIcon(row.picture));
-  browser.findChild<QToolButton*>(QStringLiteral("btnDropDown"))
-      ->setIcon(tightFormIcon(kDropDownPicture));
+  browser.findChild<QToolButton*>(u"btnDropDown"_s)->setIcon(tightFormIcon(kDropDownPicture));
 }
 
 bool isCommandThere(const QString& control) {

@@ -14,9 +14,12 @@
 
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,7 +44,7 @@ constexpr KeptFolder kKeptFolders[] = {
 constexpr int kToolSeparators[] = {75, 160, 245, 304, 389};
 
 bool isQuoted(const QString& commandLine) {
-  return commandLine.contains(QLatin1Char('"'));
+  return commandLine.contains(u'"');
 }
 
 /// The path that a command line names, absolute.
@@ -65,6 +68,9 @@ frmBrowser::frmBrowser(PublicState& state, SettingsStore& settings, Dialogs& dia
       mnuPopup3_(new QMenu(this)),
       mnuPopup2_(new QMenu(this)) {
   ui_->setupUi(this);
+  mnuPopup_->setObjectName(u"mnuPopup"_s);
+  mnuPopup2_->setObjectName(u"mnuPopup2"_s);
+  mnuPopup3_->setObjectName(u"mnuPopup3"_s);
   connectSignals();
   Form_Load(commandLine);
 }
@@ -79,9 +85,9 @@ void frmBrowser::Form_Load(const QString& commandLine) {
   dressButtons(*this);
   makePaneMenus();
   Tips = std::make_unique<cTooltips>(ui_->picToolTip);
-  ui_->filFiles->setEnding(QStringLiteral(".thm"));
+  ui_->filFiles->setEnding(u".thm"_s);
   ui_->filFiles->setPath(state_.BrowseFolder);
-  eventProcedure(dialogs_, this, QStringLiteral("in Quillane.frmBrowser.Form_Load "),
+  eventProcedure(dialogs_, this, u"in Quillane.frmBrowser.Form_Load "_s,
                  [this] { ui_->filFiles->refresh(); });
   showCaption();
   showThemeCount();
@@ -101,7 +107,7 @@ void frmBrowser::Form_Load(const QString& commandLine) {
 void frmBrowser::selectFromCommandLine(const QString& commandLine, const QString& path) {
   if (!FileExists(path)) {
     dialogs_.message(nullptr, MessageIcon::Warning, QString(),
-                     QStringLiteral("Theme %1 could not been found.").arg(commandLine));
+                     u"Theme %1 could not been found."_s.arg(commandLine));
     return;
   }
   const QString name = SplitPath(path, PathPart::Name);
@@ -148,23 +154,26 @@ void frmBrowser::Form_Unload() {
   Tips.reset();
   state_.PreviewEngine2.reset();
   state_.EditorEngine2.reset();
-  DeleteFiles(state_.AppTempFolder + QLatin1String("*.*"));
+  DeleteFiles(state_.AppTempFolder + "*.*"_L1);
   for (const KeptFolder& kept : kKeptFolders)
     settings_.write(kept.setting, state_.*kept.variable);
-  eventProcedure(dialogs_, this, QStringLiteral("in Quillane.frmBrowser.Form_Unload "),
+  eventProcedure(dialogs_, this, u"in Quillane.frmBrowser.Form_Unload "_s,
                  [this] { settings_.flush(); });
 }
 
 void frmBrowser::keyPressEvent(QKeyEvent* event) {
-  state_.ShiftDown = event->modifiers().testFlag(Qt::ShiftModifier);
-  state_.CtrlDown = event->modifiers().testFlag(Qt::ControlModifier);
+  keepKeyState(*event);
   QMainWindow::keyPressEvent(event);
 }
 
 void frmBrowser::keyReleaseEvent(QKeyEvent* event) {
-  state_.ShiftDown = event->modifiers().testFlag(Qt::ShiftModifier);
-  state_.CtrlDown = event->modifiers().testFlag(Qt::ControlModifier);
+  keepKeyState(*event);
   QMainWindow::keyReleaseEvent(event);
+}
+
+void frmBrowser::keepKeyState(const QKeyEvent& event) {
+  state_.ShiftDown = event.modifiers().testFlag(Qt::ShiftModifier);
+  state_.CtrlDown = event.modifiers().testFlag(Qt::ControlModifier);
 }
 
 }  // namespace quillane

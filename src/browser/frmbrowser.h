@@ -25,6 +25,7 @@ class PictureBox;
 class PreviewWorld;
 class SettingsStore;
 struct PublicState;
+struct ThemeError;
 template <class Engine>
 struct Screen;
 
@@ -46,6 +47,10 @@ class frmBrowser : public QMainWindow {
   void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
+  /// Runs the procedure of an event, as in "btnHome_Click"; its fault becomes a message.
+  void run(const QString& event, void (frmBrowser::*procedure)());
+  void keepKeyState(const QKeyEvent& event);
+
   void connectSignals();
   void connectButtons();
   void connectMenus();
@@ -60,6 +65,7 @@ class frmBrowser : public QMainWindow {
   void countSelected();
   void enableForOneTheme();
   void extractTheme();
+  void setFailure(const ThemeError& error);
   void showThemeResult();
   void showFailure();
   void showSeveralSelected();
@@ -115,7 +121,7 @@ class frmBrowser : public QMainWindow {
   bool ThemeFailed = false;
   QString TipTitle;
   QString TipText;
-  enum class Severity { Error, Warning } TipSeverity = Severity::Error;
+  TipIcon TipSeverity = TipIcon::None;
   bool InListUpdate = false;
   std::unique_ptr<cTooltips> Tips;
   QString xml_;  ///< Of the XML view, which takes it when it is open.

@@ -4,6 +4,7 @@
 #include "browser/commands.h"
 #include "browser/frmbrowser.h"
 #include "browser/panemenus.h"
+#include "forms/eventprocedure.h"
 #include "forms/filelistbox.h"
 #include "forms/formarea.h"
 #include "forms/picturebox.h"
@@ -13,9 +14,17 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
+void frmBrowser::run(const QString& event, void (frmBrowser::*procedure)()) {
+  eventProcedure(dialogs_, this, u"in Quillane.frmBrowser.%1 "_s.arg(event),
+                 [this, procedure] { (this->*procedure)(); });
+}
+
 void frmBrowser::connectSignals() {
   connect(ui_->area, &FormArea::Paint, this, &frmBrowser::Form_Paint);
-  connect(ui_->filFiles, &FileListBox::Click, this, &frmBrowser::filFiles_Click);
+  connect(ui_->filFiles, &FileListBox::Click, this,
+          [this] { run(u"filFiles_Click"_s, &frmBrowser::filFiles_Click); });
   connect(ui_->filFiles, &FileListBox::PathChange, this, &frmBrowser::filFiles_PathChange);
   connectButtons();
   connectMenus();
@@ -36,7 +45,10 @@ void frmBrowser::connectButtons() {
       {ui_->btnViewXML, &frmBrowser::btnViewXML_Click},
   };
   for (const auto& [button, procedure] : rows)
-    connect(button, &QAbstractButton::clicked, this, procedure);
+    connect(button, &QAbstractButton::clicked, this,
+            [this, event = button->objectName() + "_Click"_L1, procedure = procedure] {
+              run(event, procedure);
+            });
 }
 
 void frmBrowser::connectMenus() {
@@ -53,7 +65,10 @@ void frmBrowser::connectMenus() {
       {ui_->mnuNaviItem_5, &frmBrowser::btnBrowse_Click},
   };
   for (const auto& [item, procedure] : rows)
-    connect(item, &QAction::triggered, this, procedure);
+    connect(item, &QAction::triggered, this,
+            [this, event = item->objectName() + "_Click"_L1, procedure = procedure] {
+              run(event, procedure);
+            });
   connect(ui_->mnuFileItem_10, &QAction::triggered, this, &QWidget::close);
   connect(mnuPopup2_, &QMenu::triggered, this, &frmBrowser::mnuPopup2Item_Click);
 }

@@ -14,6 +14,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 void frmBrowser::filFiles_PathChange() {
   state_.BrowseFolder = withSeparator(ui_->filFiles->path());
 }
@@ -32,8 +34,8 @@ void frmBrowser::stepTo(int index) {
 }
 
 void frmBrowser::btnBrowse_Click() {
-  const QString folder = dialogs_.chooseFolder(this, QStringLiteral("Select folder with themes:"),
-                                               state_.BrowseFolder);
+  const QString folder =
+      dialogs_.chooseFolder(this, u"Select folder with themes:"_s, state_.BrowseFolder);
   if (folder.isEmpty()) return;
   addToHistory(state_.BrowseFolder);
   showFolder(folder);
@@ -56,7 +58,7 @@ void frmBrowser::mnuPopup2Item_Click(QAction* item) {
 
 void frmBrowser::addToHistory(const QString& folder) {
   QString caption = folder;
-  QAction* item = mnuPopup2_->addAction(caption.replace(QLatin1Char('&'), QLatin1String("&&")));
+  QAction* item = mnuPopup2_->addAction(caption.replace(u'&', "&&"_L1));
   item->setData(folder);
   item->setCheckable(true);
   ui_->btnDropDown->setEnabled(true);
@@ -86,19 +88,19 @@ void frmBrowser::btnRefresh_Click() {
 }
 
 void frmBrowser::refreshList() {
-  eventProcedure(dialogs_, this, QStringLiteral("in Quillane.frmBrowser.btnRefresh_Click "),
+  eventProcedure(dialogs_, this, u"in Quillane.frmBrowser.btnRefresh_Click "_s,
                  [this] { ui_->filFiles->refresh(); });
 }
 
 void frmBrowser::showCaption() {
   QString folder = state_.BrowseFolder;
   // The toolkit takes a single one for its mark of an unsaved document.
-  folder.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-  setWindowTitle(QStringLiteral("Quillane - Theme Browser -  [%1]").arg(folder));
+  folder.replace("[*]"_L1, "[*][*]"_L1);
+  setWindowTitle(u"Quillane - Theme Browser -  [%1]"_s.arg(folder));
 }
 
 void frmBrowser::showThemeCount() {
-  ui_->lblNoThemes->setText(QStringLiteral("Number of themes: %1").arg(ui_->filFiles->listCount()));
+  ui_->lblNoThemes->setText(u"Number of themes: %1"_s.arg(ui_->filFiles->listCount()));
 }
 
 }  // namespace quillane

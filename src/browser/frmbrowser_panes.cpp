@@ -11,6 +11,7 @@
 #include "shell/dynamics.h"
 #include "shell/files.h"
 #include "shell/state.h"
+#include "theme/archive.h"
 #include "theme/load.h"
 #include "ui_frmbrowser.h"
 
@@ -19,12 +20,17 @@
 #include <QMenu>
 #include <QSet>
 
+#include <optional>
+#include <span>
+
 namespace quillane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kParseTag = QStringLiteral("in Quillane.modMain.ParseXML ");
-const QString kDrawTag = QStringLiteral("in Quillane.frmBrowser.LoadTheme ");
+const QString kParseTag = u"in Quillane.modMain.ParseXML "_s;
+const QString kDrawTag = u"in Quillane.frmBrowser.LoadTheme "_s;
 
 /// The browser never selects one of the last three cells of the 3G board.
 constexpr int kHighestDesktopIcon = 9;
@@ -63,10 +69,7 @@ void frmBrowser::LoadTheme() {
   const std::optional<LoadedTheme> theme =
       loadTheme(state_.AppTempFolder, state_.ImageState, faults.reporter());
   if (!theme) {
-    TipText = QStringLiteral("This theme does not contain an XML file.");
-    TipTitle = QStringLiteral("Error in theme file \"%1\"")
-                   .arg(SplitPath(state_.ThemeFilePath, PathPart::Name));
-    TipSeverity = Severity::Error;
+    setFailure(missingXmlError(SplitPath(state_.ThemeFilePath, PathPart::Name)));
     SelectedCount = 0;
     return;
   }
@@ -88,10 +91,9 @@ void frmBrowser::LoadTheme() {
   }
   faults.show(kDrawTag);
   if (theme->warnings.isEmpty()) return;
-  TipTitle =
-      QStringLiteral("Errors in theme \"%1\"").arg(ui_->filFiles->item(state_.SelectedIndex));
-  TipText = theme->warnings.join(QLatin1String("\r\n"));
-  TipSeverity = Severity::Warning;
+  TipTitle = u"Errors in theme \"%1\""_s.arg(ui_->filFiles->item(state_.SelectedIndex));
+  TipText = theme->warnings.join("\r\n"_L1);
+  TipSeverity = TipIcon::Warning;
 }
 
 template <class Engine>
@@ -100,10 +102,10 @@ void frmBrowser::drawScreens(Engine& preview, Engine& editor,
   for (const Screen<Engine>& screen : screens) {
     auto* pane = findChild<PictureBox*>(screen.pane);
     if (!pane) continue;
-    if (screen.id == QLatin1String("standby")) {
+    if (screen.id == "standby"_L1) {
       stepSignal(preview, state_, world_);
       stepBattery(preview, editor, state_);
-    } else if (screen.id == QLatin1String("desktop")) {
+    } else if (screen.id == "desktop"_L1) {
       stepDesktopIcon(preview, kHighestDesktopIcon, state_, world_);
     }
     preview.setSurface(pane->surface());
@@ -141,9 +143,9 @@ void frmBrowser::btnClipboardCopy_Click() {
 }
 
 void frmBrowser::makePaneMenus() {
-  mnuPopup_->addAction(QStringLiteral("Vistrel &Capture..."));
-  mnuPopup_->addAction(QStringLiteral("E&xtract Image..."));
-  mnuPopup3_->addAction(QStringLiteral("Vistrel &Capture..."));
+  mnuPopup_->addAction(u"Vistrel &Capture..."_s);
+  mnuPopup_->addAction(u"E&xtract Image..."_s);
+  mnuPopup3_->addAction(u"Vistrel &Capture..."_s);
   for (const ExtractItem3G& item : extractItems3G())
     mnuPopup3_->addAction(QLatin1String(item.caption));
   // The forms behind the items are still to come.

@@ -5,7 +5,6 @@
 #include "browser/frmbrowser.h"
 #include "forms/dialogs.h"
 #include "forms/filelistbox.h"
-#include "forms/formicons.h"
 #include "forms/picturebox.h"
 #include "shell/files.h"
 #include "shell/state.h"
@@ -16,10 +15,9 @@
 
 namespace quillane {
 
-namespace {
+using namespace Qt::StringLiterals;
 
-constexpr int kWarningPicture = 109;
-constexpr int kErrorPicture = 110;
+namespace {
 
 /// The drawing boxes that `ClearPreview` clears; those of 3G keep theirs.
 constexpr const char* kClearedPanes[] = {
@@ -64,37 +62,37 @@ void frmBrowser::enableForOneTheme() {
 }
 
 void frmBrowser::extractTheme() {
-  DeleteFiles(state_.AppTempFolder + QLatin1String("*.*"));
+  DeleteFiles(state_.AppTempFolder + "*.*"_L1);
   const ArchiveResult result = extractArchive(state_.ThemeFilePath, state_.AppTempFolder);
-  TipTitle = QStringLiteral("UnTAR operation error %1").arg(result.code);
-  TipSeverity = Severity::Error;
   if (result.code != 0) {
-    TipText = archiveErrorText(result.code, SplitPath(state_.ThemeFilePath, PathPart::Name));
+    setFailure(archiveError(result.code, SplitPath(state_.ThemeFilePath, PathPart::Name)));
     return;
   }
   LoadTheme();
   if (SelectedCount != 0) ui_->lblSize->setText(FormatFileSize(state_.ThemeFilePath));
 }
 
+void frmBrowser::setFailure(const ThemeError& error) {
+  TipTitle = error.title;
+  TipText = error.text;
+  TipSeverity = TipIcon::Error;
+}
+
 void frmBrowser::showThemeResult() {
   if (TipText.isEmpty()) {
     clearTip();
-  } else if (TipSeverity == Severity::Error) {
-    showFailure();
-  } else {
-    Tips->setTitle(TipIcon::Warning, TipTitle);
-    Tips->setText(TipText);
-    ui_->picToolTip->setPixmap(formPixmap(kWarningPicture));
+    return;
   }
+  Tips->setTitle(TipSeverity, TipTitle);
+  Tips->setText(TipText);
+  if (TipSeverity == TipIcon::Error) showFailure();
+  ui_->picToolTip->setPixmap(tipPicture(TipSeverity));
 }
 
 void frmBrowser::showFailure() {
-  Tips->setTitle(TipIcon::Error, TipTitle);
-  Tips->setText(TipText);
   ClearPreview();
   enable(ui_->btnIRSend, false);
   dialogs_.beep();
-  ui_->picToolTip->setPixmap(formPixmap(kErrorPicture));
   ThemeFailed = true;
 }
 
@@ -114,7 +112,7 @@ void frmBrowser::showSeveralSelected() {
 void frmBrowser::showSelectedCounts() {
   showThemeCount();
   ui_->lblNoThemes->setText(ui_->lblNoThemes->text() +
-                            QStringLiteral(" (Number of selected themes: %1)").arg(SelectedCount));
+                            u" (Number of selected themes: %1)"_s.arg(SelectedCount));
   ui_->lblSize->setText(sizeText(selectedBytes()));
 }
 

@@ -16,6 +16,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kTipLength = 12;
@@ -26,8 +28,8 @@ constexpr int kWidestText = 360;
 
 /// Cuts the middle out of words that no line can hold, such as some names of files.
 QString withShortWords(QString text) {
-  static const QRegularExpression longWord(QStringLiteral("(\\S{30})\\S{8,}(\\S{10})"));
-  return text.replace(longWord, QStringLiteral("\\1\u2026\\2"));
+  static const QRegularExpression longWord(u"(\\S{30})\\S{8,}(\\S{10})"_s);
+  return text.replace(longWord, u"\\1\u2026\\2"_s);
 }
 
 /// Shows a text on lines as long as they are, and breaks those that are too long.
@@ -47,10 +49,10 @@ Balloon::Balloon(QWidget* owner)
       icon_(new QLabel(this)),
       title_(new QLabel(this)),
       text_(new QLabel(this)) {
-  setObjectName(QStringLiteral("balloon"));
-  icon_->setObjectName(QStringLiteral("balloonIcon"));
-  title_->setObjectName(QStringLiteral("balloonTitle"));
-  text_->setObjectName(QStringLiteral("balloonText"));
+  setObjectName(u"balloon"_s);
+  icon_->setObjectName(u"balloonIcon"_s);
+  title_->setObjectName(u"balloonTitle"_s);
+  text_->setObjectName(u"balloonText"_s);
   setAttribute(Qt::WA_TransparentForMouseEvents);
   for (QLabel* label : {title_, text_}) {
     label->setTextFormat(Qt::PlainText);

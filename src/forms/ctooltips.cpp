@@ -15,7 +15,9 @@ namespace {
 constexpr int kWarningPicture = 109;
 constexpr int kErrorPicture = 110;
 
-QPixmap pictureOf(TipIcon icon) {
+}  // namespace
+
+QPixmap tipPicture(TipIcon icon) {
   switch (icon) {
     case TipIcon::Warning:
       return formPixmap(kWarningPicture);
@@ -26,8 +28,6 @@ QPixmap pictureOf(TipIcon icon) {
   }
   return {};
 }
-
-}  // namespace
 
 cTooltips::cTooltips(QWidget* control)
     : QObject(control), control_(control), balloon_(new Balloon(control)) {
@@ -56,7 +56,7 @@ bool cTooltips::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void cTooltips::showBalloon() {
-  balloon_->showAt(control_->mapToGlobal(control_->rect().center()), pictureOf(icon_), title_,
+  balloon_->showAt(control_->mapToGlobal(control_->rect().center()), tipPicture(icon_), title_,
                    text_);
 }
 

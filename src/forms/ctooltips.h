@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPixmap>
 #include <QString>
 
 class QWidget;
@@ -13,6 +14,9 @@ class Balloon;
 
 /// The icon beside a balloon's title.
 enum class TipIcon { None = 0, Warning = 2, Error = 3 };
+
+/// The picture of a balloon's icon, which the status line shows too; a null one for none.
+QPixmap tipPicture(TipIcon icon);
 
 /// A balloon tooltip on one control: title, icon and text, shown as soon as the pointer rests on
 /// the control and as long as it stays there. Without a text there is no balloon.

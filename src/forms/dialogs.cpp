@@ -8,6 +8,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QMessageBox::Icon iconOf(MessageIcon icon) {
@@ -30,13 +32,11 @@ const QChar kCut(0x2026);
 }  // namespace
 
 QString widgetText(const QString& text) {
-  QStringList lines = text.left(kLongestText)
-                          .replace(QLatin1String("\r\n"), QLatin1String("\n"))
-                          .split(QLatin1Char('\n'));
+  QStringList lines = text.left(kLongestText).replace("\r\n"_L1, "\n"_L1).split(u'\n');
   for (QString& line : lines)
     if (line.size() > kLongestLine) line = line.left(kLongestLine) + kCut;
   if (lines.size() > kMostLines) lines = lines.mid(0, kMostLines) << kCut;
-  return lines.join(QLatin1Char('\n'));
+  return lines.join(u'\n');
 }
 
 void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& title,

@@ -4,10 +4,11 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 void showFault(Dialogs& dialogs, QWidget* owner, const Fault& fault, const QString& tag) {
-  dialogs.message(
-      owner, MessageIcon::Stop, QString(),
-      QStringLiteral("%1\r\n%2at line %3").arg(fault.description(), tag).arg(fault.line()));
+  dialogs.message(owner, MessageIcon::Stop, QString(),
+                  u"%1\r\n%2at line %3"_s.arg(fault.description(), tag).arg(fault.line()));
 }
 
 }  // namespace quillane

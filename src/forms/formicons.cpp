@@ -15,6 +15,8 @@ static void loadProgramIcons() {
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 QPixmap formPixmap(int id) {
   QPixmap pixmap;
   skipOnFault([&] { pixmap = QPixmap::fromImage(LoadResourcePicture(id).image()); });
@@ -34,7 +36,7 @@ QIcon programIcon() {
   loadProgramIcons();
   QIcon icon;
   for (const int side : {16, 32, 48, 64, 128, 256})
-    icon.addFile(QStringLiteral(":/program/%1.png").arg(side));
+    icon.addFile(u":/program/%1.png"_s.arg(side));
   return icon;
 }
 

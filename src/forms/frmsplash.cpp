@@ -8,6 +8,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 frmSplash::frmSplash()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
       ui_(std::make_unique<Ui::frmSplash>()) {
@@ -24,10 +26,7 @@ void frmSplash::setStatus(const QString& text) {
 }
 
 QString versionCaption() {
-  return QStringLiteral("Version: %1.%2.%3 Beta 2")
-      .arg(kVersionMajor)
-      .arg(kVersionMinor)
-      .arg(kVersionRevision);
+  return u"Version: %1 Beta 2"_s.arg(QLatin1String(kVersion));
 }
 
 }  // namespace quillane

@@ -7,6 +7,7 @@
 namespace quillane {
 
 /// A whole number of an engine that accepts `Low` to `High`; any other value becomes `Otherwise`.
+/// It is 0 until it is first set.
 template <int Low, int High, int Otherwise>
 class Bounded {
  public:
@@ -14,13 +15,13 @@ class Bounded {
     value_ = value >= Low && value <= High ? value : Otherwise;
     return *this;
   }
-  operator int() const { return value_; }  // NOLINT(google-explicit-constructor): reads as a number
+  operator int() const { return value_; }
 
  private:
   int value_ = 0;
 };
 
-/// A text of an engine whose empty value stands for a fixed one.
+/// A text of an engine whose empty value stands for a fixed one. It is empty until it is first set.
 class DefaultedText {
  public:
   explicit DefaultedText(QString standard) : standard_(std::move(standard)) {}
@@ -28,7 +29,7 @@ class DefaultedText {
     text_ = text.isEmpty() ? standard_ : text;
     return *this;
   }
-  operator const QString&() const { return text_; }  // NOLINT(google-explicit-constructor)
+  operator const QString&() const { return text_; }
 
  private:
   QString standard_;

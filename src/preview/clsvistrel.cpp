@@ -4,6 +4,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 clsVistrel::clsVistrel(PreviewWorld& world) : world_(&world) {
   DefaultColors();
 }
@@ -16,7 +18,7 @@ void clsVistrel::takeTheme(const ThemeValues& values) {
 void clsVistrel::DefaultColors() {
   values_.reset();
   StandbyType = 0;
-  PopupPaddingLeftTop = QStringLiteral("3 5");
+  PopupPaddingLeftTop = u"3 5"_s;
 }
 
 }  // namespace quillane

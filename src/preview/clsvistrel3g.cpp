@@ -57,7 +57,7 @@ void clsVistrel3G::DrawShadowText(const QString& text, gen3g::Color color, gen3g
 }
 
 void clsVistrel3G::DrawOutlineText(const QString& text, gen3g::Color outline, gen3g::Color color,
-                                   int x, int y, int alignment) {
+                                   int x, int y, int alignment, bool diagonal) {
   font_.Alignment = alignment;
   font_.Bold = true;
   setTextColor(outline);
@@ -65,8 +65,29 @@ void clsVistrel3G::DrawOutlineText(const QString& text, gen3g::Color outline, ge
   drawText(text, x, y - 1, 126);
   drawText(text, x + 1, y, 126);
   drawText(text, x, y + 1, 126);
+  if (diagonal) {
+    drawText(text, x - 1, y - 1, 126);
+    drawText(text, x + 1, y - 1, 126);
+    drawText(text, x + 1, y + 1, 126);
+    drawText(text, x - 1, y + 1, 126);
+  }
   setTextColor(color);
   drawText(text, x, y, 126);
+}
+
+void clsVistrel3G::DrawPopupFrame(gen3g::Color fillColor, int left, int top, int right,
+                                  int bottom) {
+  fill(fillColor, left + 5, top + 5, right + 5, bottom + 5);
+
+  const ColorValue frame = colorValueOf(color(MoreListPopupFrameColor));
+  DrawLine(*surface_, left + 5, top + 5, right + 5, top + 5, frame);
+  DrawLine(*surface_, left + 5, top + 5, left + 5, bottom + 5, frame);
+  DrawLine(*surface_, right + 5, top + 5, right + 5, bottom + 5, frame);
+  DrawLine(*surface_, left + 5, bottom + 5, right + 6, bottom + 5, frame);
+
+  const ColorValue shadow = colorValueOf(color(MoreListPopupShadowColor));
+  DrawLine(*surface_, right + 6, top + 6, right + 6, bottom + 6, shadow);
+  DrawLine(*surface_, left + 6, bottom + 6, right + 7, bottom + 6, shadow);
 }
 
 void clsVistrel3G::DrawStatusBar() {

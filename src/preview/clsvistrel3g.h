@@ -87,7 +87,9 @@ class clsVistrel3G {
   void DrawShadowText(const QString& text, gen3g::Color color, gen3g::Color shadow, int x, int y,
                       int alignment);
   void DrawOutlineText(const QString& text, gen3g::Color outline, gen3g::Color color, int x, int y,
-                       int alignment);
+                       int alignment, bool diagonal);
+  /// The coordinates leave out the margin of 5 pixels.
+  void DrawPopupFrame(gen3g::Color fillColor, int left, int top, int right, int bottom);
   void DrawStatusBar();
   /// `mode` 0 has a right key only for exactly two labels, 1 leaves a gap between two keys, 2 shows
   /// the left key disabled and the right one pressed.

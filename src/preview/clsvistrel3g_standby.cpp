@@ -16,11 +16,11 @@ void clsVistrel3G::DrawStandby() {
   paintSlot(WallpaperImage, BackgroundColor, 5, 19, 133, 146);
 
   DrawOutlineText(OperatorName, StandbyOperatorNameOutlineColor, StandbyOperatorNameColor, 6, 21,
-                  AlignCentre);
+                  AlignCentre, false);
   const QString time = formatDate(world_->now(), TimeFormat, world_->locale());
-  DrawOutlineText(time, StandbyTimeOutlineColor, StandbyTimeColor, 6, 130, AlignLeft);
+  DrawOutlineText(time, StandbyTimeOutlineColor, StandbyTimeColor, 6, 130, AlignLeft, false);
   const QString date = formatDate(world_->now(), DateFormat, world_->locale());
-  DrawOutlineText(date, StandbyTimeOutlineColor, StandbyTimeColor, 6, 130, AlignRight);
+  DrawOutlineText(date, StandbyTimeOutlineColor, StandbyTimeColor, 6, 130, AlignRight, false);
 
   DrawSoftkeyBar(StandbySoftkeyText, 1);
   paintIcon(2400, 64, 151);

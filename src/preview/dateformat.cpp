@@ -7,6 +7,9 @@
 #include <algorithm>
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A piece of a pattern: a token in lower case, or text that stands for itself.
@@ -18,8 +21,7 @@ struct Piece {
 /// Longer tokens stand before those that they begin with.
 const QStringList& tokens() {
   static const QStringList all =
-      QStringLiteral("am/pm dddd ddd dd d mmmm mmm mm m yyyy yy ww w hh h nn n ss s")
-          .split(QLatin1Char(' '));
+      u"am/pm dddd ddd dd d mmmm mmm mm m yyyy yy ww w hh h nn n ss s"_s.split(u' ');
   return all;
 }
 
@@ -33,12 +35,12 @@ QList<Piece> piecesOf(const QString& pattern) {
   QList<Piece> pieces;
   for (qsizetype at = 0; at < pattern.size();) {
     const QChar c = pattern[at];
-    if (c == QLatin1Char('"')) {
+    if (c == u'"') {
       qsizetype end = pattern.indexOf(c, at + 1);
       if (end < 0) end = pattern.size();
       pieces.append({pattern.mid(at + 1, end - at - 1), false});
       at = end + 1;
-    } else if (c == QLatin1Char('\\')) {
+    } else if (c == u'\\') {
       pieces.append({pattern.mid(at + 1, 1), false});
       at += 2;
     } else if (const QString token = tokenAt(pattern, at); !token.isEmpty()) {
@@ -58,21 +60,21 @@ bool isMarker(const Piece& piece) {
 }
 
 QString padded(int number, qsizetype places) {
-  return QStringLiteral("%1").arg(number, static_cast<int>(places), 10, QLatin1Char('0'));
+  return u"%1"_s.arg(number, static_cast<int>(places), 10, QLatin1Char('0'));
 }
 
 QString shortName(QString name) {
-  if (name.endsWith(QLatin1Char('.'))) name.chop(1);
+  if (name.endsWith(u'.')) name.chop(1);
   return name;
 }
 
-/// Days from Sunday, 0 to 6.
-int dayInWeek(const QDate& date) {
-  return date.dayOfWeek() % 7;
+/// Days from the first day of the week, 0 to 6.
+int dayInWeek(const QDate& date, Qt::DayOfWeek firstDay) {
+  return (date.dayOfWeek() - static_cast<int>(firstDay) + 7) % 7;
 }
 
-int weekOfYear(const QDate& date) {
-  return (date.dayOfYear() - 1 + dayInWeek(QDate(date.year(), 1, 1))) / 7 + 1;
+int weekOfYear(const QDate& date, Qt::DayOfWeek firstDay) {
+  return (date.dayOfYear() - 1 + dayInWeek(QDate(date.year(), 1, 1), firstDay)) / 7 + 1;
 }
 
 QString dayText(const QDate& date, qsizetype places, const QLocale& locale) {
@@ -93,7 +95,8 @@ int hourOn12HourClock(int hour) {
 
 }  // namespace
 
-QString formatDate(const QDateTime& time, const QString& pattern, const QLocale& locale) {
+QString formatDate(const QDateTime& time, const QString& pattern, const QLocale& locale,
+                   Qt::DayOfWeek firstDay) {
   const QDate date = time.date();
   const QTime clock = time.time();
   const QList<Piece> pieces = piecesOf(pattern);
@@ -107,9 +110,8 @@ QString formatDate(const QDateTime& time, const QString& pattern, const QLocale&
       continue;
     }
     const qsizetype places = piece.text.size();
-    QChar letter = isMarker(piece) ? QLatin1Char('t') : piece.text[0];
-    if (letter == QLatin1Char('m') && places <= 2 && before == QLatin1Char('h'))
-      letter = QLatin1Char('n');
+    QChar letter = isMarker(piece) ? u't' : piece.text[0];
+    if (letter == u'm' && places <= 2 && before == u'h') letter = u'n';
     switch (letter.unicode()) {
       case 'd':
         out += dayText(date, places, locale);
@@ -121,7 +123,8 @@ QString formatDate(const QDateTime& time, const QString& pattern, const QLocale&
         out += padded(places == 2 ? date.year() % 100 : date.year(), places);
         break;
       case 'w':
-        out += QString::number(places == 2 ? weekOfYear(date) : dayInWeek(date) + 1);
+        out += QString::number(places == 2 ? weekOfYear(date, firstDay)
+                                           : dayInWeek(date, firstDay) + 1);
         break;
       case 'h':
         out += padded(halfDays ? hourOn12HourClock(clock.hour()) : clock.hour(), places);

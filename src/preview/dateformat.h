@@ -13,7 +13,8 @@ namespace quillane {
 /// s ss second, am/pm a 12-hour clock with its marker (AM/PM in capitals). Quoted text and a
 /// character behind a backslash stand as they are, as does everything else.
 ///
-/// Weeks begin on Sunday, and the first one holds 1 January. Short names lose a final point.
-QString formatDate(const QDateTime& time, const QString& pattern, const QLocale& locale);
+/// Weeks begin on `firstDay`, and the first one holds 1 January. Short names lose a final point.
+QString formatDate(const QDateTime& time, const QString& pattern, const QLocale& locale,
+                   Qt::DayOfWeek firstDay = Qt::Sunday);
 
 }  // namespace quillane

@@ -15,6 +15,9 @@
 #include <utility>
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The files behind a face's name. One without a bold file is emboldened by painting it twice; one
@@ -27,9 +30,9 @@ struct FaceFiles {
 };
 
 constexpr FaceFiles kFaces[] = {
-    {QLatin1String("Tahoma"), QLatin1String("tahoma.ttf"), QLatin1String("tahomabd.ttf"), false},
-    {QLatin1String("MS Sans Serif"), QLatin1String("ms_sans_serif.ttf"), QLatin1String(), true},
-    {QLatin1String("Small Fonts"), QLatin1String("tahoma.ttf"), QLatin1String(), false},
+    {"Tahoma"_L1, "tahoma.ttf"_L1, "tahomabd.ttf"_L1, false},
+    {"MS Sans Serif"_L1, "ms_sans_serif.ttf"_L1, QLatin1String(), true},
+    {"Small Fonts"_L1, "tahoma.ttf"_L1, QLatin1String(), false},
 };
 
 const FaceFiles& filesOf(const QString& name) {
@@ -86,8 +89,8 @@ FT_Face openFace(FT_Library library, const QString& path, unsigned pixels) {
 }  // namespace
 
 QStringList splitLines(const QString& text) {
-  if (!text.contains(QLatin1Char('\r')) && !text.contains(QLatin1Char('\n'))) return {text};
-  static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
+  if (!text.contains(u'\r') && !text.contains(u'\n')) return {text};
+  static const QRegularExpression lineEnd(u"\r\n|\r|\n"_s);
   return text.split(lineEnd);
 }
 
@@ -97,6 +100,13 @@ SizedFace::SizedFace(FT_Face face, bool doubled) : face_(face, &freeFace), doubl
   ascent_ = scaled(metrics != nullptr ? metrics->usWinAscent : face->ascender, *face);
   cellHeight_ =
       ascent_ + scaled(metrics != nullptr ? metrics->usWinDescent : -face->descender, *face);
+}
+
+int SizedFace::widthOf(const QString& line) {
+  int width = 0;
+  for (const char32_t character : line.toUcs4())
+    width += glyph(character).advance;
+  return width;
 }
 
 const Glyph& SizedFace::glyph(char32_t character) {

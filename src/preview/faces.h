@@ -38,6 +38,8 @@ class SizedFace {
   /// Rows from the cell's top to the baseline.
   int ascent() const { return ascent_; }
   const Glyph& glyph(char32_t character);
+  /// The advances of a line's characters together, in pixels.
+  int widthOf(const QString& line);
 
  private:
   Glyph render(char32_t character) const;

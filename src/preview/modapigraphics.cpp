@@ -6,10 +6,11 @@
 #include "preview/surface.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <cstdlib>
 #include <vector>
 
 namespace quillane {
+
 namespace {
 
 /// A character of a text once the ampersands have been read.
@@ -62,6 +63,28 @@ int startOf(int alignment, int left, int right, int width) {
 void DrawFilledRect(Surface& surface, ColorValue color, int x1, int y1, int x2, int y2) {
   if (x1 < x2 && y1 < y2)
     fill(surface.image(), QRect(QPoint(x1, y1), QPoint(x2 - 1, y2 - 1)), pixelOf(color));
+}
+
+void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, ColorValue color) {
+  QImage& image = surface.image();
+  const QRgb pixel = pixelOf(color);
+  const int dx = std::abs(x2 - x1);
+  const int dy = std::abs(y2 - y1);
+  const int stepX = x1 < x2 ? 1 : -1;
+  const int stepY = y1 < y2 ? 1 : -1;
+  int error = dx - dy;
+  for (int x = x1, y = y1; x != x2 || y != y2;) {
+    if (image.valid(x, y)) image.setPixel(x, y, pixel);
+    const int twice = 2 * error;
+    if (twice > -dy) {
+      error -= dy;
+      x += stepX;
+    }
+    if (twice < dx) {
+      error += dx;
+      y += stepY;
+    }
+  }
 }
 
 void DrawTextRect(Surface& surface, const QString& text, int left, int top, int height, int width,

@@ -25,6 +25,9 @@ struct FontSpec {
 /// Fills x in [x1, x2) and y in [y1, y2).
 void DrawFilledRect(Surface& surface, ColorValue color, int x1, int y1, int x2, int y2);
 
+/// Draws a line one pixel wide from (x1, y1) up to, but not including, (x2, y2).
+void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, ColorValue color);
+
 /// Draws text from the top of the rectangle (left, top) to (left + width, top + height), clipped to
 /// it. "&&" shows one ampersand, "&x" an x with a line over it below, a line end starts a new line.
 void DrawTextRect(Surface& surface, const QString& text, int left, int top, int height, int width,

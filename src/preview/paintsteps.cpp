@@ -7,11 +7,17 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 PaintSteps::PaintSteps(Surface& surface)
-    : surface_(&surface), lineHeight_(surface.TextHeight(QStringLiteral("|"))) {}
+    : surface_(&surface), lineHeight_(surface.TextHeight(u"|"_s)) {}
 
 void PaintSteps::fill(const QString& color, int x1, int y1, int x2, int y2) {
   skipOnFault([&] { DrawFilledRect(*surface_, colorValueOf(color), x1, y1, x2, y2); });
+}
+
+void PaintSteps::line(const QString& color, int x1, int y1, int x2, int y2) {
+  skipOnFault([&] { DrawLine(*surface_, x1, y1, x2, y2, colorValueOf(color)); });
 }
 
 void PaintSteps::setTextColor(const QString& color) {

@@ -18,6 +18,7 @@ class PaintSteps {
 
   /// Colours are RRGGBB texts.
   void fill(const QString& color, int x1, int y1, int x2, int y2);
+  void line(const QString& color, int x1, int y1, int x2, int y2);
   void setTextColor(const QString& color);
   void text(const QString& text, int left, int top, int width);
   /// The text at the eight places around (left, top), clockwise from the left.

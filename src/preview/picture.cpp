@@ -19,10 +19,13 @@ static void loadIconResources() {
 }
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kLongestSide = 4096;
-constexpr qsizetype kRememberedBytes = 8 * 1024 * 1024;
+constexpr qsizetype kRememberedBytes = 8'388'608;
 constexpr int kAllocationLimit = 64;  // MB: a picture of the longest sides at 32 bits.
 
 /// Pixels as the placement rules see them: HIMETRIC at 96 dots per inch, rounded half up, divided
@@ -106,7 +109,7 @@ Picture decodeOnce(const QByteArray& bytes) {
   thread_local QCache<QByteArray, Picture> decoded(kRememberedBytes);
   if (const Picture* known = decoded.object(bytes)) return *known;
 
-  const Picture picture(decode(bytes));
+  Picture picture(decode(bytes));
   const qsizetype cost = bytes.size() + picture.image().sizeInBytes();
   decoded.insert(bytes, new Picture(picture), cost);
   return picture;
@@ -134,9 +137,8 @@ int Picture::height() const {
 Picture LoadPicture(const QString& path) {
   Picture picture = decodeOnce(readFile(path));
   if (picture.isNull())
-    throw Fault(
-        FaultNumber::BadPicture,
-        QStringLiteral("\"%1\" is no GIF, JPEG, BMP or icon file that can be shown.").arg(path));
+    throw Fault(FaultNumber::BadPicture,
+                u"\"%1\" is no GIF, JPEG, BMP or icon file that can be shown."_s.arg(path));
   return picture;
 }
 
@@ -146,10 +148,9 @@ Picture LoadResourcePicture(int id) {
   if (const auto known = decoded.constFind(id); known != decoded.cend()) return *known;
 
   loadIconResources();
-  QImage image(QStringLiteral(":/CUSTOM/%1.png").arg(id), "png");
+  QImage image(u":/CUSTOM/%1.png"_s.arg(id), "png");
   if (image.isNull())
-    throw Fault(FaultNumber::ResourceNotFound,
-                QStringLiteral("The numbered icon %1 does not exist.").arg(id));
+    throw Fault(FaultNumber::ResourceNotFound, u"The numbered icon %1 does not exist."_s.arg(id));
   return *decoded.insert(id, Picture(std::move(image)));
 }
 

@@ -6,13 +6,15 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 QStringList splitList(const QString& list) {
-  return list.isEmpty() ? QStringList() : list.split(QLatin1Char('|'));
+  return list.isEmpty() ? QStringList() : list.split(u'|');
 }
 
 QString entryOf(const QStringList& list, int index) {
   if (index < 0 || index >= list.size())
-    throw Fault(FaultNumber::BadIndex, QStringLiteral("Subscript out of range"));
+    throw Fault(FaultNumber::BadIndex, u"Subscript out of range"_s);
   return list[index];
 }
 

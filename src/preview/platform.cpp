@@ -9,6 +9,7 @@
 #include <memory>
 
 namespace quillane {
+
 namespace {
 
 constexpr const char* kFaceFolders[] = {"/usr/share/wine/fonts/",

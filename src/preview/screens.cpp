@@ -3,22 +3,21 @@
 #include "preview/screens.h"
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr QLatin1String operator""_l1(const char* text, std::size_t size) {
-  return QLatin1String(text, static_cast<qsizetype>(size));
-}
-
 constexpr Screen<clsVistrel> kGeneration2[] = {
-    {"standby"_l1, "Standby"_l1, "picStandby"_l1, [](clsVistrel& e) { e.DrawStandby(); }},
-    {"desktop"_l1, "Desktop"_l1, "picDesktop"_l1, [](clsVistrel& e) { e.DrawDesktop(); }},
+    {"standby"_L1, "Standby"_L1, "picStandby"_L1, [](clsVistrel& e) { e.DrawStandby(); }},
+    {"desktop"_L1, "Desktop"_L1, "picDesktop"_L1, [](clsVistrel& e) { e.DrawDesktop(); }},
 };
 
 constexpr Screen<clsVistrel3G> k3G[] = {
-    {"standby"_l1, "Standby"_l1, "picStandby2"_l1, [](clsVistrel3G& e) { e.DrawStandby(); }},
-    {"desktop"_l1, "Desktop"_l1, "picDesktop2"_l1, [](clsVistrel3G& e) { e.DrawDesktop(); }},
-    {"softkeys-1"_l1, "Soft Keys 1"_l1, ""_l1, [](clsVistrel3G& e) { e.DrawSoftkeys(0); }},
-    {"softkeys-2"_l1, "Soft Keys 2"_l1, ""_l1, [](clsVistrel3G& e) { e.DrawSoftkeys(1); }},
+    {"standby"_L1, "Standby"_L1, "picStandby2"_L1, [](clsVistrel3G& e) { e.DrawStandby(); }},
+    {"desktop"_L1, "Desktop"_L1, "picDesktop2"_L1, [](clsVistrel3G& e) { e.DrawDesktop(); }},
+    {"softkeys-1"_L1, "Soft Keys 1"_L1, ""_L1, [](clsVistrel3G& e) { e.DrawSoftkeys(0); }},
+    {"softkeys-2"_L1, "Soft Keys 2"_L1, ""_L1, [](clsVistrel3G& e) { e.DrawSoftkeys(1); }},
 };
 
 }  // namespace

@@ -4,9 +4,13 @@
 
 #include "preview/faces.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int toPixel(double position) {
@@ -29,8 +33,16 @@ void Surface::Cls() {
 }
 
 int Surface::TextHeight(const QString& text) const {
-  const SizedFace& face = Faces::shared().face(QStringLiteral("MS Sans Serif"), fontSize_, false);
+  const SizedFace& face = Faces::shared().face(u"MS Sans Serif"_s, fontSize_, false);
   return face.cellHeight() * static_cast<int>(splitLines(text).size());
+}
+
+int Surface::TextWidth(const QString& text) const {
+  SizedFace& face = Faces::shared().face(u"MS Sans Serif"_s, fontSize_, false);
+  int widest = 0;
+  for (const QString& line : splitLines(text))
+    widest = std::max(widest, face.widthOf(line));
+  return widest;
 }
 
 void Surface::PaintPicture(const Picture& picture, double x, double y) {

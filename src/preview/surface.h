@@ -28,8 +28,9 @@ class Surface {
   void Cls();
   /// Size in points of the surface's own font: 7, 8 or 9.
   void setFontSize(int points) { fontSize_ = points; }
-  /// Height in pixels of a text in the surface's own font.
+  /// Height and width in pixels of a text in the surface's own font.
   int TextHeight(const QString& text) const;
+  int TextWidth(const QString& text) const;
 
   /// Paints the whole picture 1:1 at a place that may have a fraction (rounded half up).
   void PaintPicture(const Picture& picture, double x, double y);

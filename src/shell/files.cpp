@@ -8,11 +8,13 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList matches(const QString& pattern) {
   QString name = SplitPath(pattern, PathPart::Name);
-  if (name == QLatin1String("*.*")) name = QStringLiteral("*");
+  if (name == "*.*"_L1) name = u"*"_s;
   const QDir folder(SplitPath(pattern, PathPart::Folder));
   QStringList paths;
   const auto kinds = QDir::Files | QDir::Hidden | QDir::System;
@@ -27,7 +29,7 @@ bool FileExists(const QString& path) {
   const QFileInfo file(path);
   if (file.exists()) return !file.isDir();
   const QString name = SplitPath(path, PathPart::Name);
-  const bool isPattern = name.contains(QLatin1Char('*')) || name.contains(QLatin1Char('?'));
+  const bool isPattern = name.contains(u'*') || name.contains(u'?');
   return isPattern && !matches(path).isEmpty();
 }
 
@@ -41,13 +43,13 @@ void DeleteFiles(const QString& pattern) {
 }
 
 QString SplitPath(const QString& path, PathPart part) {
-  const qsizetype behind = path.lastIndexOf(QLatin1Char('/')) + 1;
+  const qsizetype behind = path.lastIndexOf(u'/') + 1;
   return part == PathPart::Name ? path.mid(behind) : path.left(behind);
 }
 
 QString sizeText(qint64 bytes) {
   const QString kilobytes = QString::number(static_cast<double>(bytes) / 1024.0, 'f', 1);
-  return QStringLiteral("%1 KB (%2 bytes)").arg(kilobytes).arg(bytes);
+  return u"%1 KB (%2 bytes)"_s.arg(kilobytes).arg(bytes);
 }
 
 QString FormatFileSize(const QString& path) {
@@ -56,7 +58,7 @@ QString FormatFileSize(const QString& path) {
 }
 
 QString withSeparator(const QString& folder) {
-  return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+  return folder.endsWith(u'/') ? folder : folder + u'/';
 }
 
 }  // namespace quillane

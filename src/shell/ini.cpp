@@ -12,13 +12,14 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype kLongestValue = 254;
 
 bool isBlank(QChar character) {
-  return character == QLatin1Char(' ') || character == QLatin1Char('\t') ||
-         character == QLatin1Char('\r');
+  return character == u' ' || character == u'\t' || character == u'\r';
 }
 
 /// Without the blanks at both ends; other characters that count as space belong to the text.
@@ -32,29 +33,27 @@ QString stripped(const QString& text) {
 /// Without one pair of quotes, and then without blanks at the begin.
 QString unquoted(const QString& value) {
   const bool quoted = value.size() >= 2 && value.front() == value.back() &&
-                      (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\''));
+                      (value.front() == u'"' || value.front() == u'\'');
   if (!quoted) return value;
   const auto begin = std::find_if_not(value.begin() + 1, value.end() - 1, isBlank);
   return value.mid(begin - value.begin()).chopped(1);
 }
 
 bool isSection(const QString& line, const QString& section) {
-  return line.mid(1, line.indexOf(QLatin1Char(']')) - 1)
-             .trimmed()
-             .compare(section, Qt::CaseInsensitive) == 0;
+  return line.mid(1, line.indexOf(u']') - 1).trimmed().compare(section, Qt::CaseInsensitive) == 0;
 }
 
 std::optional<QString> findValue(const QString& text, const QString& section, const QString& key) {
   bool inside = false;
-  for (const QString& raw : text.split(QLatin1Char('\n'))) {
+  for (const QString& raw : text.split(u'\n')) {
     const QString line = stripped(raw);
-    if (line.startsWith(QLatin1Char('['))) {
+    if (line.startsWith(u'[')) {
       if (inside) return std::nullopt;
       inside = isSection(line, section);
       continue;
     }
-    const qsizetype equals = line.indexOf(QLatin1Char('='));
-    if (!inside || equals < 0 || line.startsWith(QLatin1Char(';'))) continue;
+    const qsizetype equals = line.indexOf(u'=');
+    if (!inside || equals < 0 || line.startsWith(u';')) continue;
     if (stripped(line.left(equals)).compare(key, Qt::CaseInsensitive) == 0)
       return unquoted(stripped(line.mid(equals + 1)));
   }

@@ -8,6 +8,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isDamaged(const QLockFile& lock) {
@@ -24,11 +26,9 @@ bool takeInstanceLock(QLockFile& lock) {
   if (lock.tryLock(0)) return true;
   if (lock.error() == QLockFile::LockFailedError)
     return isDamaged(lock) && lock.removeStaleLockFile() && lock.tryLock(0);
-  throw Fault(
-      FaultNumber::NoPermission,
-      QStringLiteral("\"%1\" cannot be made. Quillane keeps its work beside it; allow writing "
-                     "to that folder and start again.")
-          .arg(lock.fileName()));
+  throw Fault(FaultNumber::NoPermission,
+              u"\"%1\" cannot be made. Quillane keeps its work beside it; allow writing "
+              "to that folder and start again."_s.arg(lock.fileName()));
 }
 
 }  // namespace quillane

@@ -11,6 +11,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A text of a language file and the engine property that takes it.
@@ -102,8 +104,7 @@ void reportUnreadable(const QString& file, const FaultReporter& report) {
   if (!FileExists(file) || QFile(file).open(QIODevice::ReadOnly)) return;
   report(
       Fault(FaultNumber::NoPermission,
-            QStringLiteral("The language file \"%1\" cannot be read; the standard texts are shown.")
-                .arg(file)));
+            u"The language file \"%1\" cannot be read; the standard texts are shown."_s.arg(file)));
 }
 
 }  // namespace
@@ -118,7 +119,7 @@ void InitPreview2(clsVistrel& engine, PublicState& state, const SettingsStore& s
   engine.PopupMenuText = languageText("PopupMenu", "MenuList1", kPopupMenuList1, file);
   state.PopupMenuList1 = engine.PopupMenuText;
   state.PopupMenuList2 = languageText("PopupMenu", "MenuList2", kPopupMenuList2, file);
-  engine.CalendarDateFormat = QStringLiteral("mmm yyyy");
+  engine.CalendarDateFormat = u"mmm yyyy"_s;
 }
 
 void InitPreview3G(clsVistrel3G& engine, const PublicState& state, const SettingsStore& settings,

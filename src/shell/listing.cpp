@@ -8,25 +8,27 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 #include <utility>
 #include <vector>
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 namespace fs = std::filesystem;
 
 bool isListed(const fs::directory_entry& entry, const QString& name, const QString& ending) {
-  if (name.startsWith(QLatin1Char('.')) || !name.endsWith(ending, Qt::CaseInsensitive))
-    return false;
+  if (name.startsWith(u'.') || !name.endsWith(ending, Qt::CaseInsensitive)) return false;
   std::error_code error;
   return entry.is_regular_file(error);
 }
 
 [[noreturn]] void refuse(const QString& folder, const std::error_code& error) {
-  throw Fault(FaultNumber::NoPermission, QStringLiteral("The folder \"%1\" cannot be read: %2.")
-                                             .arg(folder, QString::fromStdString(error.message())));
+  throw Fault(FaultNumber::NoPermission, u"The folder \"%1\" cannot be read: %2."_s.arg(
+                                             folder, QString::fromStdString(error.message())));
 }
 
 }  // namespace
@@ -37,12 +39,13 @@ QStringList listFiles(const QString& folder, const QString& ending) {
   fs::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
   if (error) refuse(folder, error);
   for (const fs::directory_iterator end; entry != end; entry.increment(error)) {
-    if (error) refuse(folder, error);
     const QByteArray bytes(entry->path().filename().c_str());
     const QString name = QFile::decodeName(bytes);
     if (QFile::encodeName(name) == bytes && isListed(*entry, name, ending))
       found.emplace_back(name.toCaseFolded(), name);
   }
+  // A step that fails ends the walk.
+  if (error) refuse(folder, error);
   std::sort(found.begin(), found.end());
   QStringList names;
   names.reserve(static_cast<qsizetype>(found.size()));

@@ -15,6 +15,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isTooSmall(QSize screen) {
@@ -22,18 +24,17 @@ bool isTooSmall(QSize screen) {
 }
 
 void prepareWorkFolder(PublicState& state, const QString& programFolder) {
-  state.AppTempFolder = programFolder + QLatin1String("temp/");
+  state.AppTempFolder = programFolder + "temp/"_L1;
   if (!QDir().mkpath(state.AppTempFolder))
     throw Fault(
         FaultNumber::NoPermission,
-        QStringLiteral("The folder \"%1\" cannot be made. Themes cannot be shown without it; "
-                       "allow writing to \"%2\" and start again.")
-            .arg(state.AppTempFolder, programFolder));
-  DeleteFiles(state.AppTempFolder + QLatin1String("*.*"));
-  const QString left = state.AppTempFolder + QLatin1String("new");
+        u"The folder \"%1\" cannot be made. Themes cannot be shown without it; "
+        "allow writing to \"%2\" and start again."_s.arg(state.AppTempFolder, programFolder));
+  DeleteFiles(state.AppTempFolder + "*.*"_L1);
+  const QString left = state.AppTempFolder + "new"_L1;
   // A link must not lead the emptying into somebody else's folder.
   if (QFile::remove(left) || !FolderExists(left)) return;
-  DeleteFiles(left + QLatin1String("/*.*"));
+  DeleteFiles(left + "/*.*"_L1);
   QDir().rmdir(left);
 }
 
@@ -62,7 +63,7 @@ constexpr FolderSetting kFolders[] = {
 QString standardFolder(Default standard, const PublicState& state, const QString& programFolder) {
   switch (standard) {
     case Default::MyThemes:
-      return programFolder + QLatin1String("My Themes/");
+      return programFolder + "My Themes/"_L1;
     case Default::ThemesFolder:
       return state.ThemesFolder;
     case Default::ProgramFolder:
@@ -100,9 +101,9 @@ bool pictureWritersPresent() {
 
 void setLanguageFiles(PublicState& state, const SettingsStore& settings,
                       const QString& programFolder) {
-  state.ConfigFolder2 = programFolder + QLatin1String("Vistrel Config/2/");
+  state.ConfigFolder2 = programFolder + "Vistrel Config/2/"_L1;
   state.LanguageFile2 = settings.read(setting::LanguageFile2);
-  state.ConfigFolder3G = programFolder + QLatin1String("Vistrel Config/3G/");
+  state.ConfigFolder3G = programFolder + "Vistrel Config/3G/"_L1;
   state.LanguageFile3G = settings.read(setting::LanguageFile3G);
 }
 
@@ -134,8 +135,8 @@ bool Main(PublicState& state, const SettingsStore& settings, const Places& place
           PreviewWorld& world, StartScreen& screen, const FaultReporter& report) {
   if (isTooSmall(screen.screenSize())) {
     screen.stop(
-        QStringLiteral("Quillane was not designed to run\r\n"
-                       "on screen resolution lower then 800x600."));
+        u"Quillane was not designed to run\r\n"
+        "on screen resolution lower then 800x600."_s);
     return false;
   }
   screen.showSplash();
@@ -146,11 +147,11 @@ bool Main(PublicState& state, const SettingsStore& settings, const Places& place
   readSwitches(state, settings, report);
   state.IViewPresent = pictureWritersPresent();
   setLanguageFiles(state, settings, programFolder);
-  screen.setStatus(QStringLiteral("Status: Initializing preview engines..."));
+  screen.setStatus(u"Status: Initializing preview engines..."_s);
   makeEngines(state, settings, world, report);
   showSenderIcon(state, settings, places.systemFolder, report);
   readActive(state, settings, report);
-  screen.setStatus(QStringLiteral("Status: Loading browser..."));
+  screen.setStatus(u"Status: Loading browser..."_s);
   screen.loadBrowser();
   screen.unloadSplash();
   return true;

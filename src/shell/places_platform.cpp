@@ -8,6 +8,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Programs of freedesktop systems that take file paths and ask for the phone themselves.
@@ -16,21 +18,20 @@ constexpr const char* kSenders[] = {"bluetooth-sendto", "blueman-sendto"};
 QString programFolder() {
   const QString home = qEnvironmentVariable("QUILLANE_HOME");
   if (!home.isEmpty()) return QDir(home).absolutePath();
-  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-         QLatin1String("/quillane");
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/quillane"_L1;
 }
 
 }  // namespace
 
 Places placesOfDesktop(const QString& applicationFolder) {
   const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  return {programFolder(), QDir::cleanPath(applicationFolder + QLatin1String("/../share/quillane")),
-          QStringLiteral("/usr/bin"), config + QLatin1String("/Quillane/Quillane 3G.ini")};
+  return {programFolder(), QDir::cleanPath(applicationFolder + "/../share/quillane"_L1),
+          u"/usr/bin"_s, config + "/Quillane/Quillane 3G.ini"_L1};
 }
 
 QString findSender(const QString& systemFolder) {
   for (const char* sender : kSenders) {
-    const QString path = systemFolder + QLatin1Char('/') + QLatin1String(sender);
+    QString path = systemFolder + u'/' + QLatin1String(sender);
     const QFileInfo program(path);
     if (program.isFile() && program.isExecutable()) return path;
   }

@@ -15,12 +15,14 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QSet<QString> readNotes(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
-  const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+  const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
   return {lines.begin(), lines.end()};
 }
 
@@ -28,7 +30,7 @@ void writeNotes(const QString& path, const QSet<QString>& copied) {
   QStringList lines(copied.begin(), copied.end());
   lines.removeAll(QString());
   lines.sort();
-  saveFile(path, lines.join(QLatin1Char('\n')).toUtf8() + '\n');
+  saveFile(path, lines.join(u'\n').toUtf8() + '\n');
 }
 
 // Shipped files may be read-only; the user's copies are not.
@@ -54,10 +56,9 @@ class Faults {
 
   void reportTo(const FaultReporter& report) const {
     if (!first_) return;
-    QString text =
-        QStringLiteral("What belongs to the program could not be copied into its folder. ") +
-        first_->description();
-    if (count_ > 1) text += QStringLiteral(" (And %1 more.)").arg(count_ - 1);
+    QString text = u"What belongs to the program could not be copied into its folder. "_s +
+                   first_->description();
+    if (count_ > 1) text += u" (And %1 more.)"_s.arg(count_ - 1);
     report(Fault(first_->number(), text));
   }
 
@@ -71,7 +72,7 @@ class Faults {
 void seedProgramFolder(const Places& places, const FaultReporter& report) {
   const QDir shipped(places.shippedFolder);
   const QDir home(places.programFolder);
-  const QString notes = home.filePath(QStringLiteral("seeded.txt"));
+  const QString notes = home.filePath(u"seeded.txt"_s);
   QSet<QString> copied = readNotes(notes);
   const QSet<QString> before = copied;
   Faults faults;

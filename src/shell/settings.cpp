@@ -15,15 +15,17 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString nameOf(const Setting& setting) {
-  return QLatin1String(setting.section) + QLatin1Char('/') + QLatin1String(setting.key);
+  return QLatin1String(setting.section) + u'/' + QLatin1String(setting.key);
 }
 
 // A value with a bare comma, as a person may write it into the file, comes back as a list.
 QString textOf(const QVariant& value) {
-  return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QLatin1String(", "))
+  return value.typeId() == QMetaType::QStringList ? value.toStringList().join(", "_L1)
                                                   : value.toString();
 }
 
@@ -44,17 +46,16 @@ void keepWhenBroken(const QString& file, const FaultReporter& report) {
   if (!ini.open(QIODevice::ReadOnly)) return;
   const QByteArray text = ini.readAll();
   if (isSettingsText(text)) return;
-  const QString kept = file + QLatin1String(".broken");
-  QString outcome = QStringLiteral("It is kept as \"%1\".").arg(kept);
+  const QString kept = file + ".broken"_L1;
+  QString outcome = u"It is kept as \"%1\"."_s.arg(kept);
   try {
     saveFile(kept, text);
   } catch (const Fault& fault) {
-    outcome = QStringLiteral("It could not be kept: %1").arg(fault.description());
+    outcome = u"It could not be kept: %1"_s.arg(fault.description());
   }
   report(Fault(FaultNumber::DeviceFault,
-               QStringLiteral("The settings file \"%1\" holds lines that are no settings. %2 "
-                              "What could be read is in force.")
-                   .arg(file, outcome)));
+               u"The settings file \"%1\" holds lines that are no settings. %2 "
+               "What could be read is in force."_s.arg(file, outcome)));
 }
 
 double numberOf(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {
@@ -63,10 +64,9 @@ double numberOf(const SettingsStore& store, const Setting& setting, const FaultR
   const double value = QLocale::c().toDouble(text.trimmed(), &isNumber);
   if (isNumber) return value;
   const QString standard = QLatin1String(setting.standard);
-  report(
-      Fault(FaultNumber::BadNumber,
-            QStringLiteral("The setting %1 holds \"%2\", which is no number; %3 is used instead.")
-                .arg(nameOf(setting), text, standard)));
+  report(Fault(FaultNumber::BadNumber,
+               u"The setting %1 holds \"%2\", which is no number; %3 is used instead."_s.arg(
+                   nameOf(setting), text, standard)));
   return standard.toDouble();
 }
 
@@ -84,11 +84,9 @@ IniSettings::IniSettings(const QString& file, const FaultReporter& report) {
   keepWhenBroken(file, report);
   settings_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
   if (settings_->status() == QSettings::AccessError)
-    report(
-        Fault(FaultNumber::NoPermission,
-              QStringLiteral("The settings file \"%1\" cannot be read. The standard settings are "
-                             "in force; allow reading and writing it and start again.")
-                  .arg(file)));
+    report(Fault(FaultNumber::NoPermission,
+                 u"The settings file \"%1\" cannot be read. The standard settings are "
+                 "in force; allow reading and writing it and start again."_s.arg(file)));
 }
 
 IniSettings::~IniSettings() = default;
@@ -104,21 +102,18 @@ void IniSettings::write(const Setting& setting, const QString& value) {
 void IniSettings::flush() {
   settings_->sync();
   if (settings_->status() != QSettings::AccessError) return;
-  throw Fault(
-      FaultNumber::NoPermission,
-      QStringLiteral("The settings file \"%1\" cannot be written, so the folders in use are "
-                     "not kept.")
-          .arg(settings_->fileName()));
+  throw Fault(FaultNumber::NoPermission,
+              u"The settings file \"%1\" cannot be written, so the folders in use are "
+              "not kept."_s.arg(settings_->fileName()));
 }
 
 int numberSetting(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {
   const double value = std::nearbyint(numberOf(store, setting, report));
   if (std::abs(value) <= std::numeric_limits<std::int16_t>::max()) return static_cast<int>(value);
   const QString standard = QLatin1String(setting.standard);
-  report(
-      Fault(FaultNumber::BadNumber,
-            QStringLiteral("The setting %1 holds a number that is too large; %2 is used instead.")
-                .arg(nameOf(setting), standard)));
+  report(Fault(FaultNumber::BadNumber,
+               u"The setting %1 holds a number that is too large; %2 is used instead."_s.arg(
+                   nameOf(setting), standard)));
   return standard.toInt();
 }
 

@@ -65,11 +65,17 @@ ArchiveResult listArchive(const QString& themePath) {
   return readTheme(themePath, sink);
 }
 
-QString archiveErrorText(int code, const QString& fileName) {
+ThemeError archiveError(int code, const QString& fileName) {
+  const QString title = u"UnTAR operation error %1"_s.arg(code);
   const auto* const row = std::find_if(std::begin(kCodeTexts), std::end(kCodeTexts),
                                        [code](const CodeText& text) { return text.code == code; });
-  if (row == std::end(kCodeTexts)) return u"UnTAR operation error "_s + QString::number(code);
-  return QString(row->text).replace("%1"_L1, fileName);
+  const bool isKnown = row != std::end(kCodeTexts);
+  return {code, title, isKnown ? QString(row->text).replace("%1"_L1, fileName) : title};
+}
+
+ThemeError missingXmlError(const QString& fileName) {
+  return {0, u"Error in theme file \"%1\""_s.arg(fileName),
+          u"This theme does not contain an XML file."_s};
 }
 
 }  // namespace quillane

@@ -16,7 +16,7 @@ struct ArchiveMember {
   qint64 size = 0;
 };
 
-/// Outcome of reading an archive; code 0 is success, `archiveErrorText` has the others.
+/// Outcome of reading an archive; code 0 is success, `archiveError` has words for the others.
 struct ArchiveResult {
   int code = 0;
   /// The members in archive order, repeats included.
@@ -31,8 +31,18 @@ ArchiveResult extractArchive(const QString& themePath, const QString& folder);
 /// Lists the members without writing anything.
 ArchiveResult listArchive(const QString& themePath);
 
-/// The user's text for a reader's code; `fileName` is the bare name of the theme file.
-QString archiveErrorText(int code, const QString& fileName);
+/// Why a theme cannot be shown, in the words of the window and of the tool.
+struct ThemeError {
+  int code = 0;  ///< The reader's, 0 for an archive without an XML file.
+  QString title;
+  QString text;
+};
+
+/// The error of a reader's code other than 0; `fileName` is the bare name of the theme file.
+ThemeError archiveError(int code, const QString& fileName);
+
+/// The error of an archive in which no XML file lies.
+ThemeError missingXmlError(const QString& fileName);
 
 /// Packs files into a new archive beside `themePath` and renames it over it. Members are the bare
 /// file names in lower case with their files' times, in the order given. Throws `Fault`; the old

@@ -25,8 +25,8 @@ bool isHexDigit(QChar digit) {
          (code >= u'a' && code <= u'f');
 }
 
-Fault badNumber(const QString& text) {
-  return Fault(FaultNumber::BadNumber, u"\"%1\" is no colour."_s.arg(text));
+Fault badNumber(const QString& text, int line = __builtin_LINE()) {
+  return Fault(FaultNumber::BadNumber, u"\"%1\" is no colour."_s.arg(text), line);
 }
 
 std::uint32_t numberOf(const QString& text) {

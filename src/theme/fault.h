@@ -50,7 +50,7 @@ template <typename Step>
 void skipOnFault(Step&& step) {
   try {
     step();
-  } catch (const Fault&) {  // NOLINT(bugprone-empty-catch): this is the ignoring itself.
+  } catch (const Fault&) {  // The ignoring itself.
   }
 }
 

@@ -16,8 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Fault fileFault(FaultNumber number, const QString& words, const QString& path) {
-  return Fault(number, words.arg(QDir::toNativeSeparators(path)));
+Fault fileFault(FaultNumber number, const QString& words, const QString& path,
+                int line = __builtin_LINE()) {
+  return Fault(number, words.arg(QDir::toNativeSeparators(path)), line);
 }
 
 Fault notFound(const QString& path) {

@@ -64,13 +64,14 @@ bool writeMember(archive* writer, archive_entry* entry, const QByteArray& bytes)
 QByteArray memberBlocks(Flavour flavour, archive_entry* entry, const QByteArray& bytes) {
   QByteArray tar;
   const std::unique_ptr<archive, WriterRelease> writer(archive_write_new());
-  flavour(writer.get());
+  if (flavour(writer.get()) != ARCHIVE_OK) return {};
+  // Only records have a character set; the plain flavour refuses to be told of one.
   archive_write_set_options(writer.get(), "hdrcharset=BINARY");
-  archive_write_add_filter_none(writer.get());
   archive_write_set_bytes_per_block(writer.get(), 0);
   archive_write_set_bytes_in_last_block(writer.get(), 1);
-  archive_write_open(writer.get(), &tar, nullptr, &appendTo, nullptr);
-  if (!writeMember(writer.get(), entry, bytes)) return {};
+  const bool isOpen =
+      archive_write_open(writer.get(), &tar, nullptr, &appendTo, nullptr) == ARCHIVE_OK;
+  if (!isOpen || !writeMember(writer.get(), entry, bytes)) return {};
   QByteArray blocks = tar;  // A copy, since the release of the writer adds end blocks to the other.
   return blocks;
 }

@@ -47,8 +47,8 @@ auto cursorOfNoBlank(QStringView text) {
   });
 }
 
-Fault brokenTag(const QString& name, const QString& words) {
-  return Fault(FaultNumber::BadCall, u"The element \"%1\" %2."_s.arg(name, words));
+Fault brokenTag(const QString& name, const QString& words, int line = __builtin_LINE()) {
+  return Fault(FaultNumber::BadCall, u"The element \"%1\" %2."_s.arg(name, words), line);
 }
 
 /// Walks the matches of a name up to the first that is a tag of that name.

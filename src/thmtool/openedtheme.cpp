@@ -12,14 +12,13 @@ using namespace Qt::StringLiterals;
 
 QString UnreadableTheme::complaint() const {
   // Below the first line stands what to do in the window.
-  return u"\"%1\": %2"_s.arg(path_, text_.section(u'\n', 0, 0).trimmed());
+  return u"\"%1\": %2"_s.arg(path_, error_.text.section(u'\n', 0, 0).trimmed());
 }
 
 QList<ArchiveMember> extractTheme(const QString& path, const QString& folder) {
   const ArchiveResult result = extractArchive(path, folder);
   if (result.code == 0) return result.members;
-  throw UnreadableTheme(path, result.code, u"UnTAR operation error %1"_s.arg(result.code),
-                        archiveErrorText(result.code, QFileInfo(path).fileName()));
+  throw UnreadableTheme(path, archiveError(result.code, QFileInfo(path).fileName()));
 }
 
 OpenedTheme openTheme(const QString& path, const FaultReporter& report) {
@@ -27,9 +26,7 @@ OpenedTheme openTheme(const QString& path, const FaultReporter& report) {
   opened.fileName = QFileInfo(path).fileName();
   opened.members = extractTheme(path, opened.folder.path());
   std::optional<LoadedTheme> theme = loadTheme(opened.folder.path(), opened.states, report);
-  if (!theme)
-    throw UnreadableTheme(path, 0, u"Error in theme file \"%1\""_s.arg(opened.fileName),
-                          u"This theme does not contain an XML file."_s);
+  if (!theme) throw UnreadableTheme(path, missingXmlError(opened.fileName));
   opened.theme = *std::move(theme);
   return opened;
 }

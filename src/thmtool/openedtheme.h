@@ -9,28 +9,24 @@
 #include <QTemporaryDir>
 
 #include <exception>
+#include <utility>
 
 namespace quillane {
 
 /// A theme that cannot be shown, in the words of the program's window.
 class UnreadableTheme : public std::exception {
  public:
-  UnreadableTheme(QString path, int code, QString title, QString text)
-      : path_(std::move(path)), code_(code), title_(std::move(title)), text_(std::move(text)) {}
+  UnreadableTheme(QString path, ThemeError error)
+      : path_(std::move(path)), error_(std::move(error)) {}
 
-  /// The reader's code, 0 for an archive without an XML file.
-  int code() const { return code_; }
-  const QString& title() const { return title_; }
-  const QString& text() const { return text_; }
+  const ThemeError& error() const { return error_; }
   /// One line for the error stream.
   QString complaint() const;
   const char* what() const noexcept override { return "unreadable theme"; }
 
  private:
   QString path_;
-  int code_;
-  QString title_;
-  QString text_;
+  ThemeError error_;
 };
 
 /// A theme file extracted and loaded; its images lie in `folder`, which ends with the object.

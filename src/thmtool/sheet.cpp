@@ -38,11 +38,7 @@ FontSpec captionFont() {
 }
 
 int widthOf(const QString& text, const FontSpec& font) {
-  SizedFace& face = Faces::shared().face(font.Name, font.Size, font.Bold);
-  int width = 0;
-  for (const char32_t character : text.toUcs4())
-    width += face.glyph(character).advance;
-  return width;
+  return Faces::shared().face(font.Name, font.Size, font.Bold).widthOf(text);
 }
 
 /// The text, or its beginning and an ellipsis where it is too wide.

@@ -66,7 +66,7 @@ int runVerb(const Verb& verb, const QStringList& arguments, const Streams& strea
 }
 
 QString versionLine() {
-  return u"thmtool %1.%2.%3\n"_s.arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision);
+  return u"thmtool %1\n"_s.arg(QLatin1String(kVersion));
 }
 
 int runWithoutVerb(const QString& word, const Streams& streams) {

@@ -110,9 +110,9 @@ QByteArray asJson(const QString& file, const UnreadableTheme& error) {
   json.openObject();
   json.add(u"file"_s, file);
   json.openObject(u"error"_s);
-  json.add(u"code"_s, static_cast<qint64>(error.code()));
-  json.add(u"title"_s, error.title());
-  json.add(u"text"_s, error.text());
+  json.add(u"code"_s, static_cast<qint64>(error.error().code));
+  json.add(u"title"_s, error.error().title);
+  json.add(u"text"_s, error.error().text);
   json.close();
   json.close();
   return json.bytes();

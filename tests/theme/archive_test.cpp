@@ -304,8 +304,8 @@ TEST_F(Archive, TellsWhenTheDiskIsFull) {
 }
 
 TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
-  EXPECT_EQ(archiveErrorText(Damaged, "a%1.thm"), "Some files in \"a%1.thm\" are corrupted.");
-  EXPECT_EQ(archiveErrorText(99, "a.thm"), "UnTAR operation error 99");
+  EXPECT_EQ(archiveError(Damaged, "a%1.thm").text, "Some files in \"a%1.thm\" are corrupted.");
+  EXPECT_EQ(archiveError(99, "a.thm").text, "UnTAR operation error 99");
 }
 
 }  // namespace
