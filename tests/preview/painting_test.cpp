@@ -6,6 +6,7 @@
 #include "preview/platform.h"
 #include "support/probes.h"
 
+#include <QLine>
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -31,6 +32,21 @@ TEST(PaintingTest, RectanglesExcludeRightAndBottomAndClip) {
   DrawFilledRect(surface, 0x00FF00, 5, 3, 99, 99);
   DrawFilledRect(surface, 0xFF0000, 6, 0, 8, 4);
   EXPECT_THAT(lettersOf(surface.image()), ElementsAre("r.....", "......", "......", ".....g"));
+}
+
+TEST(PaintingTest, LinesStopBeforeTheirEnd) {
+  const std::pair<QLine, Rows> table[] = {{{1, 1, 3, 1}, {".....", ".rr..", ".....", "....."}},
+                                          {{3, 1, 1, 1}, {".....", "..rr.", ".....", "....."}},
+                                          {{1, 3, 1, 1}, {".....", ".....", ".r...", ".r..."}},
+                                          {{1, 1, 2, 2}, {".....", ".r...", ".....", "....."}},
+                                          {{1, 1, 1, 1}, {".....", ".....", ".....", "....."}},
+                                          {{0, 0, 2, 4}, {"r....", "r....", ".r...", ".r..."}},
+                                          {{-3, 2, 9, 2}, {".....", ".....", "rrrrr", "....."}}};
+  for (const auto& [line, rows] : table) {
+    Surface surface(QSize(5, 4));
+    DrawLine(surface, line.x1(), line.y1(), line.x2(), line.y2(), kRed);
+    EXPECT_EQ(lettersOf(surface.image()), rows) << line.x1() << ' ' << line.y2();
+  }
 }
 
 /// Three columns red, green, blue; two rows, the lower one with a hole in the middle.
@@ -96,6 +112,9 @@ TEST(PaintingTest, TheSurfaceMeasuresInItsOwnFont) {
     EXPECT_EQ(surface.TextHeight(QString()), height);
     EXPECT_EQ(surface.TextHeight("a\r\nb\n"), 3 * height);
   }
+  const Surface fresh(QSize(1, 1));
+  EXPECT_EQ(fresh.TextWidth("W |"), 11 + 3 + 2);
+  EXPECT_EQ(fresh.TextWidth("i\nW"), 11);
 }
 
 TEST(PaintingTest, AmpersandsAndLineEnds) {

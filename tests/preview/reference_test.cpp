@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/modapigraphics.h"
 #include "preview/screens.h"
-#include "preview/surface.h"
 #include "support/probes.h"
-#include "support/stillworld.h"
 #include "theme/load.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QPainter>
-#include <gtest/gtest.h>
 
 #include <tuple>
 

@@ -7,9 +7,7 @@
 
 #include <QImage>
 #include <QStringList>
-#include <gtest/gtest.h>
 
-#include <ostream>
 #include <sstream>
 #include <string>
 

@@ -78,23 +78,20 @@ TEST(Usage, OutputThatDoesNotArriveIsNotSuccess) {
   EXPECT_EQ(err.str(), "thmtool: The output could not be written; is there room where it goes?\n");
 }
 
-class Binary : public ToolTest {
- protected:
-  /// Runs the program itself with nothing in its environment but a platform that there is not.
-  static ToolRun runBinary(const QStringList& arguments) {
-    QProcess process;
-    QProcessEnvironment environment;
-    environment.insert("QT_QPA_PLATFORM", "nonexistent");
-    process.setProcessEnvironment(environment);
-    process.start(THMTOOL_BINARY, arguments);
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
-            process.readAllStandardError().toStdString()};
-  }
-};
+/// Runs the program itself with nothing in its environment but a platform that there is not.
+ToolRun runBinary(const QStringList& arguments) {
+  QProcess process;
+  QProcessEnvironment environment;
+  environment.insert("QT_QPA_PLATFORM", "nonexistent");
+  process.setProcessEnvironment(environment);
+  process.start(THMTOOL_BINARY, arguments);
+  EXPECT_TRUE(process.waitForFinished());
+  EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+  return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+          process.readAllStandardError().toStdString()};
+}
 
-TEST_F(Binary, NeedsNoDisplayAndNoLocale) {
+TEST_F(ToolTest, BinaryNeedsNoDisplayAndNoLocale) {
   const QString theme = theme2("<Title Color=\"0x112233\"/>");
   const QString foreign = path("Émeraude – 翠.thm");
   ASSERT_TRUE(QFile::copy(theme, foreign));
@@ -103,7 +100,7 @@ TEST_F(Binary, NeedsNoDisplayAndNoLocale) {
   EXPECT_FALSE(image("ß.png").isNull());
 }
 
-TEST_F(Binary, EndsWithTheStatus) {
+TEST_F(ToolTest, BinaryEndsWithTheStatus) {
   EXPECT_EQ(runBinary({"xml", path("x")}), runTool({"xml", path("x")}));
   EXPECT_EQ(runBinary({"nonsense"}), runTool({"nonsense"}));
 }
