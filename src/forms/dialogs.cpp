@@ -3,6 +3,7 @@
 #include "forms/dialogs.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -44,7 +45,10 @@ void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& ti
   QMessageBox box(iconOf(icon), title, widgetText(text), QMessageBox::Ok, owner);
   // File names come from strangers and are no markup.
   box.setTextFormat(Qt::PlainText);
+  // Whoever is to answer should not see the wait pointer of the work that asks.
+  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
   box.exec();
+  QGuiApplication::restoreOverrideCursor();
 }
 
 QString DesktopDialogs::chooseFolder(QWidget* owner, const QString& prompt, const QString& start) {
