@@ -4,6 +4,8 @@
 #include "support/tinygif.h"
 #include "thmtool/toolrun.h"
 
+#include <QDir>
+
 namespace quillane {
 
 namespace {
@@ -60,6 +62,21 @@ TEST_F(Render, SizesFollowBorderAndScale) {
       {threeG_, {"--border=default", "--scale=16"}, {2208, 2736}}};
   for (const auto& [theme, words, size] : rows)
     EXPECT_EQ(screen(theme, "desktop", words).size(), size) << words.join(u' ').toStdString();
+}
+
+TEST_F(Render, SampleThemesLookLikeTheirReferences) {
+  const QDir themes(SAMPLE_THEMES);
+  ASSERT_GE(themes.entryList({"*.thm"}).size(), 6);
+  for (const QFileInfo& theme : themes.entryInfoList({"*.thm"})) {
+    const QImage sheet(REFERENCE_FOLDER "/" + theme.completeBaseName() + "/sheet.png");
+    for (int place = 0; const QString id : {"standby", "desktop"}) {
+      const QImage seen = screen(theme.filePath(), id, {"--border", "default"});
+      const QRect part(QPoint(place++ * seen.width(), 0), seen.size());
+      EXPECT_EQ(seen.convertToFormat(QImage::Format_RGB32),
+                sheet.copy(part).convertToFormat(QImage::Format_RGB32))
+          << theme.fileName().toStdString() << ' ' << id.toStdString();
+    }
+  }
 }
 
 TEST_F(Render, ScaleRepeatsPixels) {
