@@ -62,13 +62,17 @@ std::optional<QString> findValue(const QString& text, const QString& section, co
 
 }  // namespace
 
+QString iniValue(const QString& text, const QString& section, const QString& key,
+                 const QString& standard) {
+  return findValue(text, section, key).value_or(standard).left(kLongestValue);
+}
+
 QString ReadIni(const QString& section, const QString& key, const QString& standard,
                 const QString& file) {
   QFile ini(file);
-  QString value = standard;
-  if (!file.isEmpty() && ini.open(QIODevice::ReadOnly))
-    value = findValue(fromCodePage(ini.readAll()), section, key).value_or(standard);
-  return value.left(kLongestValue);
+  QString text;
+  if (!file.isEmpty() && ini.open(QIODevice::ReadOnly)) text = fromCodePage(ini.readAll());
+  return iniValue(text, section, key, standard);
 }
 
 }  // namespace quillane

@@ -12,4 +12,8 @@ namespace quillane {
 QString ReadIni(const QString& section, const QString& key, const QString& standard,
                 const QString& file);
 
+/// The same in the text of an INI file that is read already, for whoever asks for many values.
+QString iniValue(const QString& text, const QString& section, const QString& key,
+                 const QString& standard);
+
 }  // namespace quillane

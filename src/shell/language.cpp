@@ -6,8 +6,8 @@
 #include "shell/ini.h"
 #include "shell/settings.h"
 #include "shell/state.h"
-
-#include <QFile>
+#include "theme/codepage.h"
+#include "theme/files.h"
 
 namespace quillane {
 
@@ -80,14 +80,14 @@ constexpr LanguageText<clsVistrel3G> kTexts3G[] = {
 };
 
 QString languageText(const char* section, const char* key, const char* standard,
-                     const QString& file) {
-  return ReadIni(QLatin1String(section), QLatin1String(key), QLatin1String(standard), file);
+                     const QString& ini) {
+  return iniValue(ini, QLatin1String(section), QLatin1String(key), QLatin1String(standard));
 }
 
 template <typename Engine, std::size_t Count>
-void readTexts(Engine& engine, const LanguageText<Engine> (&texts)[Count], const QString& file) {
+void readTexts(Engine& engine, const LanguageText<Engine> (&texts)[Count], const QString& ini) {
   for (const LanguageText<Engine>& text : texts)
-    engine.*text.property = languageText(text.section, text.key, text.standard, file);
+    engine.*text.property = languageText(text.section, text.key, text.standard, ini);
 }
 
 template <typename Engine>
@@ -100,36 +100,40 @@ void readPhoneState(Engine& engine, const SettingsStore& settings, const FaultRe
   engine.BatteryLevel = numberSetting(settings, setting::BatteryLevel, report);
 }
 
-void reportUnreadable(const QString& file, const FaultReporter& report) {
-  if (!FileExists(file) || QFile(file).open(QIODevice::ReadOnly)) return;
-  report(
-      Fault(FaultNumber::NoPermission,
-            u"The language file \"%1\" cannot be read; the standard texts are shown."_s.arg(file)));
+/// The text of a language file; empty when there is none, or none that can be read.
+QString languageFile(const QString& path, const FaultReporter& report) {
+  if (!FileExists(path)) return {};
+  try {
+    return fromCodePage(readFile(path));
+  } catch (const Fault&) {
+    report(Fault(
+        FaultNumber::NoPermission,
+        u"The language file \"%1\" cannot be read; the standard texts are shown."_s.arg(path)));
+  }
+  return {};
 }
 
 }  // namespace
 
 void InitPreview2(clsVistrel& engine, PublicState& state, const SettingsStore& settings,
                   const FaultReporter& report) {
-  const QString file = state.ConfigFolder2 + state.LanguageFile2;
-  reportUnreadable(file, report);
+  const QString ini = languageFile(state.ConfigFolder2 + state.LanguageFile2, report);
   readPhoneState(engine, settings, report);
   engine.DesktopIcon = numberSetting(settings, setting::DesktopIcon2, report);
-  readTexts(engine, kTexts2, file);
-  engine.PopupMenuText = languageText("PopupMenu", "MenuList1", kPopupMenuList1, file);
+  readTexts(engine, kTexts2, ini);
+  engine.PopupMenuText = languageText("PopupMenu", "MenuList1", kPopupMenuList1, ini);
   state.PopupMenuList1 = engine.PopupMenuText;
-  state.PopupMenuList2 = languageText("PopupMenu", "MenuList2", kPopupMenuList2, file);
+  state.PopupMenuList2 = languageText("PopupMenu", "MenuList2", kPopupMenuList2, ini);
   engine.CalendarDateFormat = u"mmm yyyy"_s;
 }
 
 void InitPreview3G(clsVistrel3G& engine, const PublicState& state, const SettingsStore& settings,
                    const FaultReporter& report) {
-  const QString file = state.ConfigFolder3G + state.LanguageFile3G;
-  reportUnreadable(file, report);
+  const QString ini = languageFile(state.ConfigFolder3G + state.LanguageFile3G, report);
   readPhoneState(engine, settings, report);
   engine.DateFormat = settings.read(setting::DateFormat3G);
   engine.DesktopIcon = numberSetting(settings, setting::DesktopIcon3G, report);
-  readTexts(engine, kTexts3G, file);
+  readTexts(engine, kTexts3G, ini);
   engine.DrawImages = true;
 }
 

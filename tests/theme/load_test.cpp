@@ -81,7 +81,7 @@ TEST_F(Load, TakesAnImageValueForOneFileOfTheFolder) {
       {SlotState::None, {"", "xxx.gif"}},
       {SlotState::Found, {"a.gif", "\xE4.gif", "[1].gif"}},
       {SlotState::Missing,
-       {"XXX.gif", "A.GIF", "sub/b.gif", "sub\\b.gif", "./a.gif", "*.gif", "?.gif",
+       {"Xxx.gif", "A.GIF", "sub/b.gif", "sub\\b.gif", "./a.gif", "*.gif", "?.gif",
         QByteArray("a.gif\0", 6), "sub", "..", "link.gif", ":a.gif"}}};
   for (const auto& [state, values] : rows)
     for (const QByteArray& value : values) {
