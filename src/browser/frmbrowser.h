@@ -98,7 +98,6 @@ class frmBrowser : public QMainWindow {
 
   // Panes (frmbrowser_panes.cpp).
   void LoadTheme();
-  class LoadFaults;
   template <class Engine>
   void drawScreens(Engine& preview, Engine& editor, std::span<const Screen<Engine>> screens,
                    const FaultReporter& report);

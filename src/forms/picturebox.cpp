@@ -11,11 +11,11 @@ namespace {
 
 constexpr int kBorder = 2;
 
+}  // namespace
+
 ColorValue colorValueOf(const QColor& color) {
   return static_cast<ColorValue>(color.red() | color.green() << 8 | color.blue() << 16);
 }
-
-}  // namespace
 
 PictureBox::PictureBox(QWidget* parent) : QFrame(parent) {
   setFrameStyle(QFrame::WinPanel | QFrame::Sunken);
