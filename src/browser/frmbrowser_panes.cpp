@@ -12,6 +12,7 @@
 #include "shell/state.h"
 #include "theme/archive.h"
 #include "theme/load.h"
+#include "tools/frmpreviewall.h"
 #include "ui_frmbrowser.h"
 
 #include <QClipboard>
@@ -107,6 +108,10 @@ void frmBrowser::mnuViewItem_SourceXml() {
 
 void frmBrowser::btnClipboardCopy_Click() {
   QGuiApplication::clipboard()->setText(state_.ThemeXml);
+}
+
+void frmBrowser::btnPreviewAll_Click() {
+  showPreviewAll(this, state_, dialogs_, world_);
 }
 
 void frmBrowser::makePaneMenus() {
