@@ -59,15 +59,43 @@ class clsVistrel {
   QString PromptText;
   QString PopupTitleText;
   QString PopupMenuText;
+  QString PopupMenuList1;  ///< The two lists that `PopupMenuText` takes in turn.
+  QString PopupMenuList2;
   QString PopupPromptText;
   QString PopupWindowText;
   QString NotesText;
 
   void DrawStandby();
   void DrawDesktop();
+  void DrawMenuSmall();
+  void DrawMenuMedium();
+  void DrawMenuLarge();
+  void DrawMenuInput();
+  /// The frame of a popup over what is there, filled with an RRGGBB colour; its edges keep the
+  /// padding. Unlike the screens it throws `Fault` for a colour that is none or a padding without
+  /// a second number.
+  void DrawWindow(const QString& color);
+  /// Up to five centred lines, "|" between them, inside the padding; more lines draw nothing.
+  void DrawCenterText(const QString& text, int size, bool bold, const QString& color);
+  /// Leaves the window empty; its text is `DrawCenterText` of `PopupWindowText`.
+  void DrawPopupWindow();
+  void DrawPopupMenu();
+  void DrawPopupInput();
+  /// Ends with the padding "3 5", whatever it was.
+  void DrawNotesWindow();
+  /// The month of today; its third Saturday is marked.
+  void DrawCalendar();
+  void DrawWAPBrowser();
 
  private:
   void PlaceScreenImage(PaintSteps& steps, const QString& path, const QString& fill);
+  struct MenuLook;
+  void DrawMenu(const MenuLook& look);
+  /// Rounds the top of a title bar.
+  void PaintTitleCorners(PaintSteps& steps);
+  void PaintTitleBar(PaintSteps& steps, const QString& title);
+  /// The backdrop, the window and the title bar of a popup; leaves its title font behind.
+  void PaintPopupTitle(PaintSteps& steps, const QString& title);
 
   PreviewWorld* world_;
   Surface* surface_ = nullptr;

@@ -98,6 +98,18 @@ void clsVistrel3G::DrawStatusBar() {
   paintIcon(2100 + BatteryLevel, 114, 7);
 }
 
+void clsVistrel3G::paintTitleBar() {
+  paintSlot(TitleImage, TitleColor, 5, 19, 133, 42);
+}
+
+void clsVistrel3G::paintBody() {
+  paintSlot(GeneralBackgroundImage, BackgroundColor, 5, 42, 133, 146);
+}
+
+void clsVistrel3G::drawTitle(const QString& text) {
+  DrawShadowText(text, TitleTextColor, TitleTextShadowColor, 6, 24, AlignCentre);
+}
+
 void clsVistrel3G::DrawSoftkeyBar(const QString& text, int mode) {
   const QStringList labels = splitList(text);
   const bool hasRightKey = mode != 0 || labels.size() == 2;

@@ -6,6 +6,7 @@
 #include "preview/modapigraphics.h"
 #include "theme/values.h"
 
+#include <QDate>
 #include <QString>
 
 namespace quillane {
@@ -75,6 +76,21 @@ class clsVistrel3G {
   void DrawDesktop();
   /// `index` 0 paints the first sample list with normal keys, 1 the second with an activated key.
   void DrawSoftkeys(int index);
+  /// A list; `index` 0 or 1 picks the sample, any other has no rows.
+  void DrawMenu(int index);
+  /// The More list over a list, samples as in `DrawMenu`. A step that fails is skipped.
+  void DrawPopupMenu(int index);
+  /// The month of today.
+  void DrawCalendar();
+  /// The week of the coming Saturday, or of today when it is one.
+  void DrawWeekCalendar();
+  /// A note of up to six lines over the standby screen.
+  void DrawNotesWindow();
+  void DrawWAPBrowser();
+  /// A step that fails is skipped.
+  void DrawProgressWindow();
+  /// A step that fails is skipped.
+  void DrawAcceptWindow();
 
  private:
   bool isInForce(gen3g::Image which) const;
@@ -91,6 +107,13 @@ class clsVistrel3G {
   /// The coordinates leave out the margin of 5 pixels.
   void DrawPopupFrame(gen3g::Color fillColor, int left, int top, int right, int bottom);
   void DrawStatusBar();
+  void paintTitleBar();
+  void paintBody();
+  /// A text in the title bar.
+  void drawTitle(const QString& text);
+  /// The number of a day's week at the left of the title bar.
+  void drawWeekNumber(const QDate& day);
+  QString format(const QDate& day, const QString& pattern) const;
   /// `mode` 0 has a right key only for exactly two labels, 1 leaves a gap between two keys, 2 shows
   /// the left key disabled and the right one pressed.
   void DrawSoftkeyBar(const QString& text, int mode);

@@ -14,10 +14,9 @@ void clsVistrel3G::DrawSoftkeys(int index) {
   surface_->Cls();
   DrawStatusBar();
 
-  paintSlot(TitleImage, TitleColor, 5, 19, 133, 42);
-  DrawShadowText(entryOf(splitList(SoftkeysMenuTitleText), index), TitleTextColor,
-                 TitleTextShadowColor, 6, 24, AlignCentre);
-  paintSlot(GeneralBackgroundImage, BackgroundColor, 5, 42, 133, 146);
+  paintTitleBar();
+  drawTitle(entryOf(splitList(SoftkeysMenuTitleText), index));
+  paintBody();
 
   const QStringList rows = splitList(index == 0 ? SoftkeysMenuText1 : SoftkeysMenuText2);
   font_.Alignment = AlignLeft;

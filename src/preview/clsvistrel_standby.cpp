@@ -6,7 +6,6 @@
 #include "preview/pipelist.h"
 #include "preview/surface.h"
 #include "preview/world.h"
-#include "theme/fault.h"
 
 namespace quillane {
 
@@ -125,13 +124,11 @@ void clsVistrel::DrawDesktop() {
   steps.font.Alignment = AlignCentre;
   steps.font.Bold = true;
   steps.font.Size = 8;
-  skipOnFault([&] {
-    const QString title = entryOf(splitList(DesktopTitle), DesktopIcon - 1);
-    steps.setTextColor(color(DesktopTitleOutlineColor));
-    steps.textAround(title, 7, 5, 99);
-    steps.setTextColor(color(DesktopTitleColor));
-    steps.text(title, 7, 5, 99);
-  });
+  const QString title = splitList(DesktopTitle).value(DesktopIcon - 1);
+  steps.setTextColor(color(DesktopTitleOutlineColor));
+  steps.textAround(title, 7, 5, 99);
+  steps.setTextColor(color(DesktopTitleColor));
+  steps.text(title, 7, 5, 99);
 }
 
 }  // namespace quillane

@@ -65,6 +65,17 @@ void DrawFilledRect(Surface& surface, ColorValue color, int x1, int y1, int x2, 
     fill(surface.image(), QRect(QPoint(x1, y1), QPoint(x2 - 1, y2 - 1)), pixelOf(color));
 }
 
+void DrawBox(Surface& surface, ColorValue color, int x1, int y1, int x2, int y2) {
+  DrawFilledBox(surface, color, x1, y1, x2, y1);
+  DrawFilledBox(surface, color, x1, y2, x2, y2);
+  DrawFilledBox(surface, color, x1, y1, x1, y2);
+  DrawFilledBox(surface, color, x2, y1, x2, y2);
+}
+
+void DrawFilledBox(Surface& surface, ColorValue color, int x1, int y1, int x2, int y2) {
+  DrawFilledRect(surface, color, x1, y1, x2 + 1, y2 + 1);
+}
+
 void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, ColorValue color) {
   QImage& image = surface.image();
   const QRgb pixel = pixelOf(color);

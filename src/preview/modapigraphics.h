@@ -25,6 +25,12 @@ struct FontSpec {
 /// Fills x in [x1, x2) and y in [y1, y2).
 void DrawFilledRect(Surface& surface, ColorValue color, int x1, int y1, int x2, int y2);
 
+/// Draws the outline of a box with both corners in it.
+void DrawBox(Surface& surface, ColorValue color, int x1, int y1, int x2, int y2);
+
+/// Fills a box with both corners in it.
+void DrawFilledBox(Surface& surface, ColorValue color, int x1, int y1, int x2, int y2);
+
 /// Draws a line one pixel wide from (x1, y1) up to, but not including, (x2, y2).
 void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, ColorValue color);
 

@@ -12,6 +12,11 @@ using namespace Qt::StringLiterals;
 PaintSteps::PaintSteps(Surface& surface)
     : surface_(&surface), lineHeight_(surface.TextHeight(u"|"_s)) {}
 
+void PaintSteps::setSurfaceFont(int points) {
+  surface_->setFontSize(points);
+  lineHeight_ = surface_->TextHeight(u"|"_s);
+}
+
 void PaintSteps::fill(const QString& color, int x1, int y1, int x2, int y2) {
   skipOnFault([&] { DrawFilledRect(*surface_, colorValueOf(color), x1, y1, x2, y2); });
 }
@@ -26,6 +31,14 @@ void PaintSteps::setTextColor(const QString& color) {
 
 void PaintSteps::text(const QString& text, int left, int top, int width) {
   DrawTextRect(*surface_, text, left, top, lineHeight_, width, font);
+}
+
+void PaintSteps::shadowedText(const QString& text, int left, int top, int width,
+                              const QString& color, const QString& shadow) {
+  setTextColor(shadow);
+  this->text(text, left + 1, top + 1, width);
+  setTextColor(color);
+  this->text(text, left, top, width);
 }
 
 void PaintSteps::textAround(const QString& text, int left, int top, int width) {

@@ -16,11 +16,16 @@ class PaintSteps {
 
   FontSpec font{QStringLiteral("Tahoma"), 0, false, 0, 0};
 
+  /// Sets the surface's own font to a size in points, and the height of text with it.
+  void setSurfaceFont(int points);
   /// Colours are RRGGBB texts.
   void fill(const QString& color, int x1, int y1, int x2, int y2);
   void line(const QString& color, int x1, int y1, int x2, int y2);
   void setTextColor(const QString& color);
   void text(const QString& text, int left, int top, int width);
+  /// The text with its shadow one pixel to the right and below; the text's colour stays.
+  void shadowedText(const QString& text, int left, int top, int width, const QString& color,
+                    const QString& shadow);
   /// The text at the eight places around (left, top), clockwise from the left.
   void textAround(const QString& text, int left, int top, int width);
 

@@ -36,13 +36,14 @@ constexpr LanguageText<clsVistrel> kTexts2[] = {
      "H-1Themes|--2My pictures|--3Draw picture|--4My sounds"},
     {"Menu", "Prompt", &clsVistrel::PromptText, "Text:"},
     {"PopupMenu", "Titles", &clsVistrel::PopupTitleText, "Options|Edit word"},
+    {"PopupMenu", "MenuList1", &clsVistrel::PopupMenuList1,
+     "--2Rel. caps lock|H-3Language|-D4Input method|--5Help"},
+    {"PopupMenu", "MenuList2", &clsVistrel::PopupMenuList2,
+     "--6Language|--7Input method|HD8Candidates|-D9Accept word"},
     {"PopupMenu", "Prompt", &clsVistrel::PopupPromptText, "Cabba"},
     {"PopupWindow", "Text", &clsVistrel::PopupWindowText, "Keys locked.|Press C|to unlock."},
     {"Notes", "Note", &clsVistrel::NotesText, "Do not forget|this..."},
 };
-
-constexpr const char* kPopupMenuList1 = "--2Rel. caps lock|H-3Language|-D4Input method|--5Help";
-constexpr const char* kPopupMenuList2 = "--6Language|--7Input method|HD8Candidates|-D9Accept word";
 
 constexpr LanguageText<clsVistrel3G> kTexts3G[] = {
     {"Standby", "SoftkeysText", &clsVistrel3G::StandbySoftkeyText, "Calls|More"},
@@ -115,15 +116,13 @@ QString languageFile(const QString& path, const FaultReporter& report) {
 
 }  // namespace
 
-void InitPreview2(clsVistrel& engine, PublicState& state, const SettingsStore& settings,
+void InitPreview2(clsVistrel& engine, const PublicState& state, const SettingsStore& settings,
                   const FaultReporter& report) {
   const QString ini = languageFile(state.ConfigFolder2 + state.LanguageFile2, report);
   readPhoneState(engine, settings, report);
   engine.DesktopIcon = numberSetting(settings, setting::DesktopIcon2, report);
   readTexts(engine, kTexts2, ini);
-  engine.PopupMenuText = languageText("PopupMenu", "MenuList1", kPopupMenuList1, ini);
-  state.PopupMenuList1 = engine.PopupMenuText;
-  state.PopupMenuList2 = languageText("PopupMenu", "MenuList2", kPopupMenuList2, ini);
+  engine.PopupMenuText = engine.PopupMenuList1;
   engine.CalendarDateFormat = u"mmm yyyy"_s;
 }
 

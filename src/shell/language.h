@@ -12,8 +12,8 @@ class SettingsStore;
 struct PublicState;
 
 /// Fills an engine of generation 2 with the preview settings and the texts of its language file;
-/// texts that the file lacks get their defaults. Leaves the two popup menu lists in `state`.
-void InitPreview2(clsVistrel& engine, PublicState& state, const SettingsStore& settings,
+/// texts that the file lacks get their defaults.
+void InitPreview2(clsVistrel& engine, const PublicState& state, const SettingsStore& settings,
                   const FaultReporter& report);
 
 /// The same for 3G; also switches the engine's images on.

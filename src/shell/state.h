@@ -46,8 +46,6 @@ struct PublicState {
   std::unique_ptr<clsVistrel> EditorEngine2;
   std::unique_ptr<clsVistrel3G> PreviewEngine3G;
   std::unique_ptr<clsVistrel3G> EditorEngine3G;
-  QString PopupMenuList1;  ///< The two texts that generation 2's popup menu shows in turn.
-  QString PopupMenuList2;
 
   QString ThemeXml;       ///< XML of the theme on show.
   QString ThemeFilePath;  ///< The selected theme file.

@@ -12,7 +12,8 @@ namespace quillane {
 class SystemWorld : public PreviewWorld {
  public:
   QDateTime now() override { return QDateTime::currentDateTime(); }
-  void reseed() override { random_ = QRandomGenerator::securelySeeded(); }
+  // Filling the whole state from the system takes longer than painting a screen.
+  void reseed() override { random_.seed(QRandomGenerator::global()->generate()); }
   double random() override { return random_.generateDouble(); }
   QLocale locale() const override { return QLocale::system(); }
 

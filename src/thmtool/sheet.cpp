@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMostColumns = 5;
+constexpr int kMostColumns = 7;
 constexpr int kMargin = 12;
 constexpr int kGap = 10;
 constexpr int kTitleHeight = 17;

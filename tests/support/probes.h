@@ -62,10 +62,12 @@ inline QImage iconsOn(QRgb ground, const std::vector<PlacedIcon>& icons) {
   return surface.image();
 }
 
-/// Gives an engine the texts and the state of a phone at rest that a new user sees.
+/// Gives an engine the texts and the state of a phone at rest that a new user sees, or the texts of
+/// a language file.
 template <class Engine>
-void fillPhone(Engine& engine) {
+void fillPhone(Engine& engine, const QString& languageFile = {}) {
   PublicState state;
+  state.LanguageFile2 = state.LanguageFile3G = languageFile;
   const auto report = [](const Fault& fault) { ADD_FAILURE() << fault.what(); };
   if constexpr (requires { engine.DrawImages; })
     InitPreview3G(engine, state, MemorySettings(), report);

@@ -54,7 +54,7 @@ TEST_F(Sheet, RowsAreFilledEvenly) {
   runTool({"render", theme, "--out", path("out"), "--screens", "desktop"});
   const QImage desktop = image("out/desktop.png");
   const std::tuple<int, std::size_t, std::size_t> rows[] = {
-      {1, 1, 1}, {5, 5, 1}, {6, 3, 2}, {13, 5, 3}};
+      {1, 1, 1}, {7, 7, 1}, {8, 4, 2}, {13, 7, 2}, {14, 7, 2}};
   for (const auto& [count, columns, lines] : rows) {
     const QStringList ids(count, "desktop");
     std::set<int> lefts;
