@@ -12,10 +12,12 @@
 #include "ui_frmpreviewall.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QShowEvent>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillane {
 
@@ -31,6 +33,18 @@ constexpr int kProgressStep = 36;
 constexpr int kFullProgress = 500;
 
 constexpr int kHighestDesktopIcon = 12;
+
+// With the keyboard's focus, a level scroll bar would go left for the right arrow key.
+constexpr std::pair<Qt::Key, QAbstractSlider::SliderAction> kScrollKeys[] = {
+    {Qt::Key_Left, QAbstractSlider::SliderSingleStepSub},
+    {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},
+    {Qt::Key_Right, QAbstractSlider::SliderSingleStepAdd},
+    {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
+    {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+    {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+    {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+    {Qt::Key_End, QAbstractSlider::SliderToMaximum},
+};
 
 QString caption(const QString& what) {
   return titleText("Theme preview - "_L1 + what);
@@ -128,12 +142,17 @@ void frmPreviewAll::hideStrip() {
 void frmPreviewAll::showStrip() {
   ui_->picBackground->show();
   ui_->hsbScroll->show();
-  ui_->hsbScroll->setFocus();
   setWindowTitle(caption(u'[' + state_.ThemeFilePath + u']'));
 }
 
 void frmPreviewAll::hsbScroll_Change() {
   ui_->picBackground->move(-ui_->hsbScroll->value(), 0);
+}
+
+void frmPreviewAll::keyPressEvent(QKeyEvent* event) {
+  for (const auto& [key, action] : kScrollKeys)
+    if (event->key() == key) ui_->hsbScroll->triggerAction(action);
+  QDialog::keyPressEvent(event);
 }
 
 void frmPreviewAll::wheelEvent(QWheelEvent* event) {

@@ -132,7 +132,7 @@ TEST_F(Panes, StepTheirSimulatedPhone) {
   EXPECT_EQ(state.PreviewEngine3G->DesktopIcon, 9) << "the last three are never selected";
 }
 
-TEST_F(Panes, OfMorePreviewsOpenOverTheWindow) {
+TEST_F(Panes, OpenMorePreviewsOverTheWindow) {
   addTheme("a.thm", "<Background Color=\"0x102030\"/>", true);
   openAt(0);
   QString caption;
