@@ -4,7 +4,7 @@
 
 import numpy as np
 
-from scene import Scene, smooth
+from scene import Scene, ramp, smooth
 from theme import LARGE, Picture, Theme
 
 PAPER, INK, RED = "F4EBD8", "26241F", "C8301F"
@@ -130,17 +130,17 @@ def desktop():
 
 
 def title():
-    """Paper above one drawn line, a red seal at the right."""
+    """Paper above one drawn line, a slim red seal at the right's very end."""
     scene = Scene(128, 23, "EADFC6")
     rice_paper(scene, 23, 10)
     line = 20.4 + 0.5 * np.sin(scene.x * 0.05) + (scene.noise((60, 300), 4, 2) - 0.5)
     thick = 0.9 + 0.9 * smooth(100, 0, scene.x) * scene.noise((30, 300), 6, 2)
     scene.paint(INK, smooth(0.35, -0.35, np.abs(scene.y - line) - thick) * 0.95)
     worn = smooth(0.66, 0.74, scene.noise((3, 3), 8, 2))
-    scene.paint(RED, scene.box(118, 3, 127, 14, 1.2) * (1 - 0.35 * worn))
-    for points in ([(122.5, 4.8), (122.5, 11.8)], [(120, 7.5), (120, 11.8)],
-                   [(125, 7.5), (125, 11.8)], [(120, 11.8), (125, 11.8)]):
-        scene.paint("F8E8D8", scene.line(points, 0.9) * 0.95)
+    scene.paint(RED, scene.box(122, 2, 127, 17, 0.8) * (1 - 0.25 * worn))
+    for box in ((123, 4, 126, 5), (123, 4, 124, 9), (125, 4, 126, 9), (123, 6, 126, 7),
+                (123, 8, 126, 9), (124, 10, 125, 15), (123, 11, 126, 12), (123, 14, 126, 15)):
+        scene.paint("F8E8D8", scene.box(*box) * 0.9)
     return scene
 
 
@@ -174,15 +174,15 @@ def more_highlight():
 
 
 def softkeys():
-    """Two short strokes of ink as keys, clear around them."""
-    scene = Scene(128, 19, "33302B")
-    cover = np.zeros(scene.shape)
-    left = stroke(Scene(59, 19), 63, 0.3)
-    right = stroke(Scene(59, 19), 73, 0.3)[:, ::-1]
-    cover[:, :left.shape[1]] = left
-    cover[:, -right.shape[1]:] = right
-    scene.paint("1E1C19", scene.noise((60, 1.8), 66, 3) * 0.8)
-    scene.keep(cover)
+    """Two short strokes of ink as keys on the list paper."""
+    scene = Scene(128, 19, PAPER)
+    rice_paper(scene, 83, 8)
+    keys = np.zeros(scene.shape)
+    left = stroke(Scene(60, 19), 63, 0.15)
+    right = stroke(Scene(60, 19), 73, 0.15)[:, ::-1]
+    keys[:, :left.shape[1]] = left
+    keys[:, -right.shape[1]:] = right
+    scene.paint(ramp([(0, "33302B"), (1, "211F1C")], scene.noise((60, 1.8), 66, 3)), keys)
     return scene
 
 
@@ -194,7 +194,7 @@ THEME = Theme("Ink and Crane", LARGE, {
     "Softkeys_disabled_text": "A89E8C", "Softkeys_disabled_text_shadow": "1E1C19",
     "Softkeys_background_activated": "B02A1A",
     "Title": "EADFC6", "Title_text": "26241F", "Title_text_shadow": "FFFFFF",
-    "Background": "F4EBD8", "Text": "26241F", "Disabled_text": "A89C84",
+    "Background": "F4EBD8", "Text": "26241F", "Disabled_text": "9E9178",
     "Prompt": "8A1C10", "Cursor": "C8301F",
     "Highlight": "BC2A1A", "Highlight_text": "FFFDF4", "Highlight_disabled_text": "F4B8A4",
     "Scrollbar": "33302B", "Scrollbar_frame": "DDD0B4",
@@ -212,7 +212,7 @@ THEME = Theme("Ink and Crane", LARGE, {
     "Wapbrowser_underline": "BC2A1A", "Wapbrowser_tableborder": "33302B",
 }, {
     "Wallpaper_image": Picture("cranes.gif", wallpaper, 64, 5),
-    "Softkeys_background_image": Picture("softkeys.gif", softkeys, 8, 6),
+    "Softkeys_background_image": Picture("softkeys.gif", softkeys, 24, 5),
     "Desktop_background_image": Picture("paper.gif", desktop, 24, 5),
     "Title_image": Picture("title.gif", title, 32, 4),
     "General_background_image": Picture("bamboo.gif", general, 16, 4),
