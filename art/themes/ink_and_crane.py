@@ -30,34 +30,38 @@ def wash(scene, line, depth, strength, seed, colour=INK):
     scene.paint(colour, scene.below(line) * np.clip(tone * grain * strength, 0, 1))
 
 
-def crane(scene, x, y, size, wings):
-    """A crane in flight to the left; wings is how far they are raised, -1 to 1."""
+def crane(scene, x, y, size):
+    """A crane in flight to the left, its wings raised; size goes from shoulder to feet."""
     def at(*points):
         return [(x + size * a, y + size * b) for a, b in points]
-    legs = scene.line(at((0.28, 0.03), (0.66, 0.10), (1.0, 0.12)), size * 0.035)
-    body = scene.polygon(at((-0.36, -0.05), (-0.16, -0.10), (0.12, -0.07), (0.42, 0.05),
-                            (0.20, 0.10), (-0.12, 0.08), (-0.34, 0.02)))
-    neck = scene.line(at((-0.30, -0.02), (-0.52, -0.02), (-0.78, -0.10)), size * 0.055)
-    lift = 0.62 * wings
-    near = at((-0.22, -0.03), (-0.10, -0.18 * wings - 0.05), (0.10, -0.55 * wings - 0.05),
-              (0.46, -lift - 0.20 * wings), (0.52, -lift - 0.02), (0.40, -lift * 0.62),
-              (0.34, -lift * 0.34), (0.18, 0.06))
-    far = at((-0.20, -0.05), (-0.22, -0.30 * wings), (-0.12, -0.62 * wings),
-             (0.08, -lift * 1.35), (0.10, -lift * 1.0), (0.02, -lift * 0.6), (0.06, -0.02))
-    near, far = scene.polygon(near), scene.polygon(far)
-    white = np.maximum(np.maximum(body, near), far)
-    scene.paint("6A6458", scene.blur(white, 0.35) * 0.5)
-    scene.paint("DDD6C6", far)
-    scene.paint("FFFEF8", np.maximum(body, near))
-    rim = smooth(0.30, 0.42, (scene.x - x) / size) * near
-    tail = smooth(0.20, 0.30, (scene.x - x) / size) * body
-    high = smooth(0.5, 0.9, (y - scene.y) / (size * max(lift, 0.1)))
-    black = smooth(-0.02, 0.06, (scene.x - x) / size) * far * high
-    for part in (rim, tail, black, legs, neck):
-        scene.paint(INK, part)
-    scene.paint("FFFEF8", scene.line(at((-0.36, -0.02), (-0.46, -0.02)), size * 0.05))
-    scene.paint(RED, scene.ellipse(x - size * 0.77, y - size * 0.125, size * 0.055))
-    scene.paint("8A7A50", scene.line(at((-0.82, -0.09), (-0.98, -0.07)), size * 0.03))
+
+    def brush(width, *points):
+        scene.paint(INK, scene.line(at(*points), max(0.9, size * width)))
+
+    def feathers(roots, tips, count):
+        for part in np.linspace(0, 1, count):
+            ends = [tuple(np.array(pair[0]) * (1 - part) + np.array(pair[1]) * part)
+                    for pair in (roots, tips)]
+            brush(0.05, *ends)
+
+    body = scene.polygon(at((-0.38, -0.03), (-0.22, -0.10), (0.06, -0.09), (0.42, 0.03),
+                            (0.20, 0.10), (-0.10, 0.11), (-0.30, 0.05)))
+    near = scene.polygon(at((-0.22, -0.04), (-0.12, -0.36), (0.04, -0.64), (0.30, -0.92),
+                            (0.42, -0.80), (0.44, -0.56), (0.40, -0.32), (0.18, 0.02)))
+    far = scene.polygon(at((-0.22, -0.04), (-0.34, -0.40), (-0.36, -0.72), (-0.26, -0.98),
+                           (-0.12, -0.84), (-0.08, -0.55), (-0.04, -0.30), (0.0, -0.04)))
+    brush(0.05, (0.30, 0.04), (0.66, 0.10), (1.0, 0.13))
+    for part, colour in ((far, "D2CABA"), (np.maximum(body, near), "FFFEF8")):
+        scene.paint("3A3730", smooth(0.08, 0.45, scene.blur(part, 0.4)) * 0.85)
+        scene.paint(colour, part)
+        if colour == "D2CABA":
+            feathers(((-0.28, -0.80), (-0.10, -0.54)), ((-0.26, -1.02), (-0.06, -0.76)), 4)
+    feathers(((0.16, -0.62), (0.24, -0.20)), ((0.38, -0.96), (0.52, -0.34)), 5)
+    brush(0.06, (0.26, 0.02), (0.44, 0.06))
+    brush(0.07, (-0.40, -0.02), (-0.58, -0.03), (-0.80, -0.11))
+    scene.paint("FFFEF8", scene.line(at((-0.36, -0.02), (-0.44, -0.02)), size * 0.06))
+    scene.paint("6A5A38", scene.line(at((-0.82, -0.10), (-1.0, -0.08)), max(0.8, size * 0.035)))
+    scene.paint(RED, scene.ellipse(x - size * 0.80, y - size * 0.14, max(0.85, size * 0.05)))
 
 
 def bamboo(scene, x, tilt, width, strength):
@@ -110,8 +114,8 @@ def wallpaper():
     scene.paint(PAPER, smooth(92, 106, scene.y) * 0.55)
     wash(scene, scene.ridge(117, 26, 44, 33, 5, 0.55), 10, 0.9, 8)
     scene.paint(PAPER, smooth(106, 122, scene.y) * 0.75)
-    crane(scene, 72, 46, 22, 0.95)
-    crane(scene, 46, 69, 14, 0.8)
+    crane(scene, 72, 48, 25)
+    crane(scene, 44, 73, 14)
     bamboo(scene, 3, 0.02, 5, 0.8)
     for x, y, length, turn in ((8, 28, 22, 0.55), (8, 29, 18, 1.1), (7, 30, 20, 0.1),
                                (6, 77, 16, 0.5), (6, 78, 14, 1.1)):
