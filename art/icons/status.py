@@ -10,6 +10,7 @@ light and dark grounds alike.
 from kit import GREEN, RED, SKY, Canvas, Material, drawn, rect, rgb, rounded
 
 INK = "#10142c"
+RIM = "#5c6684"  # Between light and dark grounds, where a thin part must show on both.
 AMBER = Material("#f8a818", shade="#c06c08", light="#ffd868")
 BARS = Material("#38c84c", shade="#188030", light="#a0f490")
 WEDGE = Material("#30a8f8", shade="#1060b8", light="#9ce0ff")
@@ -82,23 +83,23 @@ def signal(level, material, step):
 
 
 def gprs(filled, width, material, step):
-    """A wedge rising to the right, fitting above the bars of the signal."""
+    """A wedge rising to the right, fitting above the bars of the signal.
+
+    Its tail is hardly more than outline; so the outline is no ink, which
+    would sink on a dark ground, but the wedge's own shade.
+    """
     c = Canvas(width, 8, step)
     rows = ["#" * max(1, round(width - 1 - y * (width - 1) / 7.4))
             for y in range(8)]
     body = drawn(0, 0, rows)
     core = {(x, y) for x, y in body
             if {(x + 1, y), (x - 1, y), (x, y + 1), (x, y - 1)} <= body}
-    c.put(body, INK)
+    c.put(body, material.tones[1] if filled else RIM)
     if filled:
         for x, y in core:
             c.put({(x, y)}, material.tone(3.4 - 0.4 * (y - 1), step))
     else:
-        heart = {(x, y) for x, y in core
-                 if {(x + 1, y), (x - 1, y), (x, y + 1), (x, y - 1)} <= core}
         c.put(core, "#e6ebf6")
-        for x, y in heart:
-            c.pixels[x, y] = rgb("#5c6684")
     return c
 
 

@@ -77,7 +77,8 @@ def check_levels(images):
 
 
 def faults(folder):
-    found = {int(path.stem) for path in folder.glob("*.png")}
+    found = {int(path.stem) for path in folder.glob("*.png")
+             if int(path.stem) >= 1000}  # Below: buttons, drawn elsewhere.
     for number in sorted(found ^ set(SIZES)):
         yield f"{number}: {'not expected' if number in found else 'missing'}"
     images = {number: Image.open(folder / f"{number}.png").convert("RGBA")

@@ -102,7 +102,7 @@ def title_large():
     u = (scene.x - 50.5) / 60 + 0.0006 * (scene.y - 8) ** 2 * np.sign(scene.x - 50.5)
     gore = (np.floor(np.arcsin(np.clip(u, -1, 1)) / np.pi * 18 + 0.5).astype(int) % 2) == 0
     colours = np.where(gore[..., None], rgb("217C80"), rgb("17606B"))
-    shade = 1.22 - 0.5 * scene.y / 16 - 0.25 * u * u
+    shade = 1.12 - 0.5 * scene.y / 16 - 0.25 * u * u
     scene.paint(np.clip(colours * shade[..., None], 0, 255))
     scene.paint("FFD98A", smooth(1.6, 0.2, np.abs(scene.y - 15.5)) * 0.95)
     return scene
@@ -111,9 +111,9 @@ def title_large():
 def title_asian():
     """Dusk-blue cloud bands and three small balloons on the right."""
     scene = Scene(101, 16)
-    scene.paint(scene.down([(0, "2B4788"), (0.7, "5A70AE"), (1, "C98FA0")]))
-    banks = smooth(0.5, 0.85, scene.noise((40, 4), 17)) * smooth(7, 15, scene.y)
-    scene.paint("F0B7A6", banks * 0.7)
+    scene.paint(scene.down([(0, "27407F"), (0.65, "455A98"), (0.88, "565290"), (1, "C98FA0")]))
+    banks = smooth(0.5, 0.85, scene.noise((40, 4), 17)) * smooth(11, 16, scene.y)
+    scene.paint("F0B7A6", banks * 0.5)
     for x, y, size, fabric in ((83, 5, 2.6, CHERRY), (90, 7.5, 3.2, TEAL), (97, 4.5, 2.2, ORANGE)):
         balloon(scene, x, y, size, fabric)
     return scene
@@ -130,14 +130,14 @@ THEME = Theme("Balloon Morning", SMALL, {
     "Highlight": "C8323C", "Highlight_text": "FFFFFF", "Highlight_disabled_text": "F2B9A8",
     "Popup_title": "A8242F", "Popup_title_text": "FFF1D6", "Popup_title_text_shadow": "5C0F1B",
     "Popup_background": "DCE8F4", "Popup_text": "22305E", "Popup_disabled_text": "8898B4",
-    "Popup_Prompt": "22305E", "Popup_Cursor": "C8323C",
+    "Popup_Prompt": "22305E", "Popup_Cursor": "A8242F",
     "Popup_highlight": "1E7F86", "Popup_highlight_text": "FFFFFF",
     "Popup_highlight_disabled_text": "9CD2CC",
     "Popup_frame": "33508F", "Popup_shadow": "544A80",
     "Notes_background": "FFE2A0", "Notes_text": "4A2A50",
     "Calendar_weekend_text": "C8323C", "Calendar_weekend_highlight": "1E7F86",
     "Calendar_weekend_highlight_text": "FFFFFF",
-    "Wapbrowser_underline": "1E7F86", "Wapbrowser_tableborder": "33508F",
+    "Wapbrowser_underline": "1A757C", "Wapbrowser_tableborder": "33508F",
 }, {
     "Background_image": Picture("background.gif", wallpaper, 64, 12),
     "Desktop_background_image": Picture("desktop.gif", desktop, 32, 10),

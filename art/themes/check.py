@@ -7,6 +7,7 @@ import re
 import sys
 from pathlib import Path
 
+import numpy as np
 from PIL import Image
 
 from build import OUT
@@ -14,18 +15,18 @@ from scene import rgb
 from theme import LARGE, SMALL
 
 MOST_BYTES = 8192
-TEXT, DISABLED = 110, 60
+TEXT, MARK, DISABLED, AREA = 4.5, 3.0, 2.2, 1.3
+WEAKER = 1.5  # By how much disabled text stands out less than the text beside it.
 
-# (text, ground, least difference) of the colours that meet on a screen.
+# (text, ground, least contrast) of the colours that meet on a screen.
 SHARED = (
     ("Standby_time", "Standby_time_outline", TEXT),
     ("Desktop_title", "Desktop_title_outline", TEXT),
     ("Desktop_title", "Desktop_background", TEXT),
     ("Title_text", "Title", TEXT), ("Title_text", "Title_text_shadow", TEXT),
     ("Text", "Background", TEXT), ("Disabled_text", "Background", DISABLED),
-    ("Disabled_text", "Text", DISABLED),
-    ("Prompt", "Background", TEXT), ("Cursor", "Background", TEXT),
-    ("Highlight_text", "Highlight", TEXT), ("Highlight", "Background", DISABLED),
+    ("Prompt", "Background", TEXT), ("Cursor", "Background", MARK),
+    ("Highlight_text", "Highlight", TEXT), ("Highlight", "Background", AREA),
     ("Highlight_disabled_text", "Highlight", DISABLED),
     ("Notes_text", "Notes_background", TEXT),
     ("Calendar_weekend_text", "Background", TEXT),
@@ -36,11 +37,11 @@ ONLY_SMALL = (
     ("Popup_title_text", "Popup_title", TEXT),
     ("Popup_text", "Popup_background", TEXT),
     ("Popup_disabled_text", "Popup_background", DISABLED),
-    ("Popup_Prompt", "Popup_background", TEXT), ("Popup_Cursor", "Popup_background", TEXT),
+    ("Popup_Prompt", "Popup_background", TEXT), ("Popup_Cursor", "Popup_background", MARK),
     ("Popup_highlight_text", "Popup_highlight", TEXT),
     ("Popup_highlight_disabled_text", "Popup_highlight", DISABLED),
     ("Popup_frame", "Popup_background", DISABLED),
-    ("Wapbrowser_underline", "Background", TEXT), ("Wapbrowser_tableborder", "Background", TEXT),
+    ("Wapbrowser_underline", "Background", MARK), ("Wapbrowser_tableborder", "Background", MARK),
 )
 ONLY_LARGE = (
     ("Standby_operatorname_text", "Standby_operatorname_outline", TEXT),
@@ -52,7 +53,7 @@ ONLY_LARGE = (
     ("Morelist_text", "Morelist_text_shadow", TEXT),
     ("Morelist_disabled_text", "Morelist_background", DISABLED),
     ("Morelist_prompt", "Morelist_background", TEXT),
-    ("Morelist_cursor", "Morelist_background", TEXT),
+    ("Morelist_cursor", "Morelist_background", MARK),
     ("Morelist_highlight_text", "Morelist_highlight", TEXT),
     ("Morelist_highlight_disabled_text", "Morelist_highlight", DISABLED),
     ("Scrollbar", "Scrollbar_frame", DISABLED),
@@ -60,7 +61,7 @@ ONLY_LARGE = (
 )
 ON_WHITE = ("Wapbrowser_underline", "Wapbrowser_tableborder")
 
-# Where text lies over a picture: slot, box, text, ground below, least difference.
+# Where text lies over a picture: slot, box, text, ground below, least contrast.
 ZONES = (
     ("Title_image_small", (22, 0, 79, 12), "Title_text", "Background", TEXT),
     ("Title_image_medium", (22, 1, 79, 14), "Title_text", "Background", TEXT),
@@ -86,9 +87,17 @@ ZONES = (
 MOST_UNREADABLE = 0.03
 
 
-def difference(first, second):
-    """How far two colours are apart in brightness, 0 to 765."""
-    return abs(sum(rgb(first)) - sum(rgb(second)))
+def luminance(colours):
+    """The light of colours, 0 to 1; the last axis holds red, green and blue."""
+    part = np.asarray(colours, float) / 255
+    light = np.where(part <= 0.04045, part / 12.92, ((part + 0.055) / 1.055) ** 2.4)
+    return light @ (0.2126, 0.7152, 0.0722)
+
+
+def contrast(first, second):
+    """The contrast ratio of two colours, or of arrays of them, 1 to 21."""
+    first, second = luminance(first), luminance(second)
+    return (np.maximum(first, second) + 0.05) / (np.minimum(first, second) + 0.05)
 
 
 def check_xml(folder, faults):
@@ -140,11 +149,18 @@ def check_colours(generation, colours, faults):
     """Text stands out from its ground wherever no picture lies below."""
     pairs = SHARED + (ONLY_LARGE if generation is LARGE else ONLY_SMALL)
     for text, ground, least in pairs:
-        apart = difference(colours[text], colours[ground])
+        apart = contrast(rgb(colours[text]), rgb(colours[ground]))
         if apart < least:
-            faults.append(f"{text} on {ground}: {apart:.0f}, not {least}")
+            faults.append(f"{text} on {ground}: {apart:.1f}, not {least}")
+        strong = text.replace("disabled_", "").replace("Disabled_text", "Text")
+        if strong == text:
+            continue
+        least = WEAKER * apart
+        apart = contrast(rgb(colours[strong]), rgb(colours[ground]))
+        if apart < least:
+            faults.append(f"{text} on {ground} looks like {strong}")
     for text in ON_WHITE if generation is LARGE else ():
-        if difference(colours[text], "FFFFFF") < TEXT:
+        if contrast(rgb(colours[text]), rgb("FFFFFF")) < MARK:
             faults.append(f"{text} on white: too pale")
 
 
@@ -157,9 +173,7 @@ def check_zones(folder, images, colours, faults):
             layer = picture.convert("RGBA")
         below = Image.new("RGBA", layer.size, "#" + colours[ground])
         seen = Image.alpha_composite(below, layer).convert("RGB").crop(box)
-        brightness = sum(rgb(colours[text]))
-        pixels = list(seen.getdata())
-        poor = sum(abs(sum(pixel) - brightness) < least for pixel in pixels) / len(pixels)
+        poor = (contrast(np.asarray(seen), rgb(colours[text])) < least).mean()
         if poor > MOST_UNREADABLE:
             faults.append(f"{text} on {images[slot]}: {poor:.0%} of the ground too close")
 

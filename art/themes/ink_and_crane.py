@@ -4,7 +4,7 @@
 
 import numpy as np
 
-from scene import Scene, smooth
+from scene import Scene, ramp, smooth
 from theme import LARGE, Picture, Theme
 
 PAPER, INK, RED = "F4EBD8", "26241F", "C8301F"
@@ -30,34 +30,38 @@ def wash(scene, line, depth, strength, seed, colour=INK):
     scene.paint(colour, scene.below(line) * np.clip(tone * grain * strength, 0, 1))
 
 
-def crane(scene, x, y, size, wings):
-    """A crane in flight to the left; wings is how far they are raised, -1 to 1."""
+def crane(scene, x, y, size):
+    """A crane in flight to the left, its wings raised; size goes from shoulder to feet."""
     def at(*points):
         return [(x + size * a, y + size * b) for a, b in points]
-    legs = scene.line(at((0.28, 0.03), (0.66, 0.10), (1.0, 0.12)), size * 0.035)
-    body = scene.polygon(at((-0.36, -0.05), (-0.16, -0.10), (0.12, -0.07), (0.42, 0.05),
-                            (0.20, 0.10), (-0.12, 0.08), (-0.34, 0.02)))
-    neck = scene.line(at((-0.30, -0.02), (-0.52, -0.02), (-0.78, -0.10)), size * 0.055)
-    lift = 0.62 * wings
-    near = at((-0.22, -0.03), (-0.10, -0.18 * wings - 0.05), (0.10, -0.55 * wings - 0.05),
-              (0.46, -lift - 0.20 * wings), (0.52, -lift - 0.02), (0.40, -lift * 0.62),
-              (0.34, -lift * 0.34), (0.18, 0.06))
-    far = at((-0.20, -0.05), (-0.22, -0.30 * wings), (-0.12, -0.62 * wings),
-             (0.08, -lift * 1.35), (0.10, -lift * 1.0), (0.02, -lift * 0.6), (0.06, -0.02))
-    near, far = scene.polygon(near), scene.polygon(far)
-    white = np.maximum(np.maximum(body, near), far)
-    scene.paint("6A6458", scene.blur(white, 0.35) * 0.5)
-    scene.paint("DDD6C6", far)
-    scene.paint("FFFEF8", np.maximum(body, near))
-    rim = smooth(0.30, 0.42, (scene.x - x) / size) * near
-    tail = smooth(0.20, 0.30, (scene.x - x) / size) * body
-    high = smooth(0.5, 0.9, (y - scene.y) / (size * max(lift, 0.1)))
-    black = smooth(-0.02, 0.06, (scene.x - x) / size) * far * high
-    for part in (rim, tail, black, legs, neck):
-        scene.paint(INK, part)
-    scene.paint("FFFEF8", scene.line(at((-0.36, -0.02), (-0.46, -0.02)), size * 0.05))
-    scene.paint(RED, scene.ellipse(x - size * 0.77, y - size * 0.125, size * 0.055))
-    scene.paint("8A7A50", scene.line(at((-0.82, -0.09), (-0.98, -0.07)), size * 0.03))
+
+    def brush(width, *points):
+        scene.paint(INK, scene.line(at(*points), max(0.9, size * width)))
+
+    def feathers(roots, tips, count):
+        for part in np.linspace(0, 1, count):
+            ends = [tuple(np.array(pair[0]) * (1 - part) + np.array(pair[1]) * part)
+                    for pair in (roots, tips)]
+            brush(0.05, *ends)
+
+    body = scene.polygon(at((-0.38, -0.03), (-0.22, -0.10), (0.06, -0.09), (0.42, 0.03),
+                            (0.20, 0.10), (-0.10, 0.11), (-0.30, 0.05)))
+    near = scene.polygon(at((-0.22, -0.04), (-0.12, -0.36), (0.04, -0.64), (0.30, -0.92),
+                            (0.42, -0.80), (0.44, -0.56), (0.40, -0.32), (0.18, 0.02)))
+    far = scene.polygon(at((-0.22, -0.04), (-0.34, -0.40), (-0.36, -0.72), (-0.26, -0.98),
+                           (-0.12, -0.84), (-0.08, -0.55), (-0.04, -0.30), (0.0, -0.04)))
+    brush(0.05, (0.30, 0.04), (0.66, 0.10), (1.0, 0.13))
+    for part, colour in ((far, "D2CABA"), (np.maximum(body, near), "FFFEF8")):
+        scene.paint("3A3730", smooth(0.08, 0.45, scene.blur(part, 0.4)) * 0.85)
+        scene.paint(colour, part)
+        if colour == "D2CABA":
+            feathers(((-0.28, -0.80), (-0.10, -0.54)), ((-0.26, -1.02), (-0.06, -0.76)), 4)
+    feathers(((0.16, -0.62), (0.24, -0.20)), ((0.38, -0.96), (0.52, -0.34)), 5)
+    brush(0.06, (0.26, 0.02), (0.44, 0.06))
+    brush(0.07, (-0.40, -0.02), (-0.58, -0.03), (-0.80, -0.11))
+    scene.paint("FFFEF8", scene.line(at((-0.36, -0.02), (-0.44, -0.02)), size * 0.06))
+    scene.paint("6A5A38", scene.line(at((-0.82, -0.10), (-1.0, -0.08)), max(0.8, size * 0.035)))
+    scene.paint(RED, scene.ellipse(x - size * 0.80, y - size * 0.14, max(0.85, size * 0.05)))
 
 
 def bamboo(scene, x, tilt, width, strength):
@@ -110,8 +114,8 @@ def wallpaper():
     scene.paint(PAPER, smooth(92, 106, scene.y) * 0.55)
     wash(scene, scene.ridge(117, 26, 44, 33, 5, 0.55), 10, 0.9, 8)
     scene.paint(PAPER, smooth(106, 122, scene.y) * 0.75)
-    crane(scene, 72, 46, 22, 0.95)
-    crane(scene, 46, 69, 14, 0.8)
+    crane(scene, 72, 48, 25)
+    crane(scene, 44, 73, 14)
     bamboo(scene, 3, 0.02, 5, 0.8)
     for x, y, length, turn in ((8, 28, 22, 0.55), (8, 29, 18, 1.1), (7, 30, 20, 0.1),
                                (6, 77, 16, 0.5), (6, 78, 14, 1.1)):
@@ -130,17 +134,17 @@ def desktop():
 
 
 def title():
-    """Paper above one drawn line, a red seal at the right."""
+    """Paper above one drawn line, a slim red seal at the right's very end."""
     scene = Scene(128, 23, "EADFC6")
     rice_paper(scene, 23, 10)
     line = 20.4 + 0.5 * np.sin(scene.x * 0.05) + (scene.noise((60, 300), 4, 2) - 0.5)
     thick = 0.9 + 0.9 * smooth(100, 0, scene.x) * scene.noise((30, 300), 6, 2)
     scene.paint(INK, smooth(0.35, -0.35, np.abs(scene.y - line) - thick) * 0.95)
     worn = smooth(0.66, 0.74, scene.noise((3, 3), 8, 2))
-    scene.paint(RED, scene.box(118, 3, 127, 14, 1.2) * (1 - 0.35 * worn))
-    for points in ([(122.5, 4.8), (122.5, 11.8)], [(120, 7.5), (120, 11.8)],
-                   [(125, 7.5), (125, 11.8)], [(120, 11.8), (125, 11.8)]):
-        scene.paint("F8E8D8", scene.line(points, 0.9) * 0.95)
+    scene.paint(RED, scene.box(122, 2, 127, 17, 0.8) * (1 - 0.25 * worn))
+    for box in ((123, 4, 126, 5), (123, 4, 124, 9), (125, 4, 126, 9), (123, 6, 126, 7),
+                (123, 8, 126, 9), (124, 10, 125, 15), (123, 11, 126, 12), (123, 14, 126, 15)):
+        scene.paint("F8E8D8", scene.box(*box) * 0.9)
     return scene
 
 
@@ -174,15 +178,15 @@ def more_highlight():
 
 
 def softkeys():
-    """Two short strokes of ink as keys, clear around them."""
-    scene = Scene(128, 19, "33302B")
-    cover = np.zeros(scene.shape)
-    left = stroke(Scene(59, 19), 63, 0.3)
-    right = stroke(Scene(59, 19), 73, 0.3)[:, ::-1]
-    cover[:, :left.shape[1]] = left
-    cover[:, -right.shape[1]:] = right
-    scene.paint("1E1C19", scene.noise((60, 1.8), 66, 3) * 0.8)
-    scene.keep(cover)
+    """Two short strokes of ink as keys on the list paper."""
+    scene = Scene(128, 19, PAPER)
+    rice_paper(scene, 83, 8)
+    keys = np.zeros(scene.shape)
+    left = stroke(Scene(60, 19), 63, 0.15)
+    right = stroke(Scene(60, 19), 73, 0.15)[:, ::-1]
+    keys[:, :left.shape[1]] = left
+    keys[:, -right.shape[1]:] = right
+    scene.paint(ramp([(0, "33302B"), (1, "211F1C")], scene.noise((60, 1.8), 66, 3)), keys)
     return scene
 
 
@@ -194,7 +198,7 @@ THEME = Theme("Ink and Crane", LARGE, {
     "Softkeys_disabled_text": "A89E8C", "Softkeys_disabled_text_shadow": "1E1C19",
     "Softkeys_background_activated": "B02A1A",
     "Title": "EADFC6", "Title_text": "26241F", "Title_text_shadow": "FFFFFF",
-    "Background": "F4EBD8", "Text": "26241F", "Disabled_text": "A89C84",
+    "Background": "F4EBD8", "Text": "26241F", "Disabled_text": "9E9178",
     "Prompt": "8A1C10", "Cursor": "C8301F",
     "Highlight": "BC2A1A", "Highlight_text": "FFFDF4", "Highlight_disabled_text": "F4B8A4",
     "Scrollbar": "33302B", "Scrollbar_frame": "DDD0B4",
@@ -212,7 +216,7 @@ THEME = Theme("Ink and Crane", LARGE, {
     "Wapbrowser_underline": "BC2A1A", "Wapbrowser_tableborder": "33302B",
 }, {
     "Wallpaper_image": Picture("cranes.gif", wallpaper, 64, 5),
-    "Softkeys_background_image": Picture("softkeys.gif", softkeys, 8, 6),
+    "Softkeys_background_image": Picture("softkeys.gif", softkeys, 24, 5),
     "Desktop_background_image": Picture("paper.gif", desktop, 24, 5),
     "Title_image": Picture("title.gif", title, 32, 4),
     "General_background_image": Picture("bamboo.gif", general, 16, 4),

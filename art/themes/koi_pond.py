@@ -147,22 +147,23 @@ def desktop():
 def scales(left, right):
     """A title bar of carp scales between two colours."""
     scene = Scene(101, 16)
-    size = 5.4
-    row = np.floor(scene.y / (size / 2))
-    shifted = scene.x + (np.mod(row, 2) * size / 2)
-    u = np.mod(shifted, size) / size - 0.5
-    v = np.mod(scene.y, size / 2) / (size / 2)
-    edge = np.hypot(u * 2.0, 1.05 - v * 0.9)
     scene.paint(ramp([(0, left), (1, right)], scene.x / 101))
-    scene.paint("000000", smooth(0.75, 1.15, edge) * 0.34)
-    scene.light("FFE8C0", smooth(0.5, 0.1, edge) * 0.16)
+    for row in range(4, -1, -1):  # An upper row lies over the one below it.
+        for number in range(-1, 12):
+            x, y = 10 * number + 5 * (row % 2) + 0.5, 4 * row - 3
+            reach = np.hypot((scene.x - x) / 5, (scene.y - y) / 5.6)
+            scale = (reach <= 1).astype(float)
+            scene.paint(ramp([(0, left), (1, right)], scene.x / 101), scale)
+            scene.light("FFE8C0", scale * smooth(0.35, 0.75, reach) * 0.12)
+            scene.paint("000000", scale * smooth(0.74, 0.96, reach) * 0.42)
+            scene.paint("000000", scale * smooth(0.6, 0.0, (scene.y - y) / 5.6) * 0.20)
     scene.paint("FFE9C0", (scene.y > 15) * 0.8)
     return scene
 
 
 def title_large():
     """Scales from deep orange to red."""
-    return scales("C24A1C", "A02A1C")
+    return scales("B8441A", "9C281A")
 
 
 def title_asian():
@@ -175,19 +176,19 @@ THEME = Theme("Koi Pond", SMALL, {
     "Standby_time": "FFD27A", "Standby_time_outline": "0A2E38",
     "Desktop_background": "A8DACC", "Desktop_title": "8A2A12", "Desktop_title_outline": "F6FFFA",
     "Title": "0F5560", "Title_text": "FFF4E2", "Title_text_shadow": "062A30",
-    "Background": "E6F5EE", "Text": "0C3A44", "Disabled_text": "8FAFA8",
-    "Prompt": "B8401A", "Cursor": "E8602A",
-    "Highlight": "D9501E", "Highlight_text": "FFFFFF", "Highlight_disabled_text": "FFC09A",
+    "Background": "E6F5EE", "Text": "0C3A44", "Disabled_text": "86A69F",
+    "Prompt": "B8401A", "Cursor": "C8481A",
+    "Highlight": "C8481A", "Highlight_text": "FFFFFF", "Highlight_disabled_text": "FFC09A",
     "Popup_title": "B83A1A", "Popup_title_text": "FFF4E2", "Popup_title_text_shadow": "5A1808",
-    "Popup_background": "FFF4DE", "Popup_text": "4A2410", "Popup_disabled_text": "B8A48C",
-    "Popup_Prompt": "4A2410", "Popup_Cursor": "D9501E",
+    "Popup_background": "FFF4DE", "Popup_text": "4A2410", "Popup_disabled_text": "B49F86",
+    "Popup_Prompt": "4A2410", "Popup_Cursor": "C8481A",
     "Popup_highlight": "1A7472", "Popup_highlight_text": "FFFFFF",
     "Popup_highlight_disabled_text": "98D0C6",
     "Popup_frame": "0F5560", "Popup_shadow": "4A7E80",
     "Notes_background": "CDE8A0", "Notes_text": "1E4024",
-    "Calendar_weekend_text": "D03A5E", "Calendar_weekend_highlight": "1A7472",
+    "Calendar_weekend_text": "C42C52", "Calendar_weekend_highlight": "1A7472",
     "Calendar_weekend_highlight_text": "FFFFFF",
-    "Wapbrowser_underline": "D9501E", "Wapbrowser_tableborder": "1A7472",
+    "Wapbrowser_underline": "C8481A", "Wapbrowser_tableborder": "1A7472",
 }, {
     "Background_image": Picture("pond.gif", wallpaper, 128, 6),
     "Desktop_background_image": Picture("ripples.gif", desktop, 48, 6),

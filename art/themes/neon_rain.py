@@ -142,13 +142,11 @@ def desktop():
 
 
 def title():
-    """A pink tube below the title, its glow on a dark wall."""
+    """A pink tube below the title, its glow on a dark wall in the rain."""
     scene = Scene(128, 23)
     scene.paint(scene.down([(0, "140A2A"), (1, "261040")]))
-    scene.paint("0A0518", (np.mod(scene.y, 6) < 0.5) * 0.5)
+    rain(scene, 18, 12, 0.34)
     tube(scene, [(-6, 20.5), (134, 20.5)], PINK, 1.0, 0.8)
-    tube(scene, [(-6, 2), (5, 2)], CYAN, 0.8, 0.8)
-    tube(scene, [(123, 2), (134, 2)], CYAN, 0.8, 0.8)
     return scene
 
 
@@ -174,7 +172,7 @@ THEME = Theme("Neon Rain", LARGE, {
     "Prompt": "FFB43C", "Cursor": "2EE6F0",
     "Highlight": "8A187C", "Highlight_text": "FFFFFF", "Highlight_disabled_text": "E0A4DC",
     "Scrollbar": "FF2E88", "Scrollbar_frame": "2C1450",
-    "Morelist_title": "B01468", "Morelist_title_text": "FFFFFF",
+    "Morelist_title": "B01468", "Morelist_title_text": "FFE6F2",
     "Morelist_title_text_shadow": "4A0428",
     "Morelist_background": "2E1650", "Morelist_text": "F0E6FF", "Morelist_text_shadow": "0A0518",
     "Morelist_disabled_text": "8C78B4", "Morelist_prompt": "FFB43C", "Morelist_cursor": "2EE6F0",
@@ -182,8 +180,8 @@ THEME = Theme("Neon Rain", LARGE, {
     "Morelist_highlight_disabled_text": "0C5A6C",
     "Morelist_popup_frame": "FF2E88", "Morelist_popup_shadow": "6A0A44",
     "Morelist_scrollbar": "2EE6F0", "Morelist_scrollbar_frame": "1A0A38",
-    "Notes_background": "FFB43C", "Notes_text": "2A0C28",
-    "Calendar_weekend_text": "FF6AA8", "Calendar_weekend_highlight": "FF2E88",
+    "Notes_background": "0E3C5A", "Notes_text": "C8F8FC",
+    "Calendar_weekend_text": "FF6AA8", "Calendar_weekend_highlight": "D6186E",
     "Calendar_weekend_highlight_text": "FFFFFF",
     "Wapbrowser_underline": "B01468", "Wapbrowser_tableborder": "4A1C78",
 }, {

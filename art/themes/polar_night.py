@@ -135,7 +135,9 @@ def softkeys():
         frost = smooth(0.6, 0.8, scene.noise((12, 6), left + 3, 3)) * key
         scene.light("A8E8FF", frost * smooth(10, 1, scene.y) * 0.25)
     dish = scene.ellipse(64, 10, 6.6, 7.4)
-    scene.paint("102A50", dish)
+    scene.paint("0B1E3E", dish)
+    rim = dish - scene.ellipse(64, 9.6, 5.9, 6.7) * dish
+    scene.paint(scene.down([(0, "0A1A3A"), (0.5, "1D4A7E"), (1, "4F86B4")]), rim * 0.9)
     return scene
 
 
@@ -143,7 +145,7 @@ def title(width=128, seed=71, colours=("3CFF9A", "2FB8C8", "7A4AE0")):
     """A strip of sky, the light low along its foot, a hairline of ice."""
     scene = Scene(width, 23)
     scene.paint(scene.down([(0, "081230"), (1, "14305C")]))
-    stars(scene, 26, seed, 0.6)
+    stars(scene, 14, seed, 0.26)  # Above the text, not behind it.
     line = wave(scene, 21, 1.6, 100, seed)
     curtain(scene, line, 13, seed, 0.62, colours)
     scene.paint("8FE8D0", smooth(0.9, 0.2, np.abs(scene.y - 22.5)))
@@ -166,12 +168,12 @@ def general():
     return scene
 
 
-def highlight(width=123, ends=("17806C", "2A5FA8"), shine="9AF5D2"):
+def highlight(width=123, ends=("147460", "2859A0"), shine="9AF5D2"):
     """A bar of frozen light with a bright upper edge."""
     scene = Scene(width, 16)
     scene.paint(ramp([(0, ends[0]), (1, ends[1])], scene.x / width))
     rays = scene.noise((7, 200), 3, 3)
-    scene.light(shine, rays * smooth(0, 14, scene.y) * 0.30)
+    scene.light(shine, rays * smooth(0, 14, scene.y) * 0.24)
     scene.paint("041022", smooth(7, 16, scene.y) * 0.12)
     rim = np.maximum(scene.y < 1, scene.y > 15).astype(float)
     scene.paint(shine, rim * (0.55 + 0.3 * (scene.y < 1)))
@@ -198,7 +200,7 @@ THEME = Theme("Polar Night", LARGE, {
     "Morelist_title": "3A2A80", "Morelist_title_text": "F2E8FF",
     "Morelist_title_text_shadow": "0A0828",
     "Morelist_background": "DDEBF7", "Morelist_text": "12244C", "Morelist_text_shadow": "FFFFFF",
-    "Morelist_disabled_text": "8AA2C0", "Morelist_prompt": "12244C", "Morelist_cursor": "6A3AB0",
+    "Morelist_disabled_text": "7E98B8", "Morelist_prompt": "12244C", "Morelist_cursor": "6A3AB0",
     "Morelist_highlight": "5A40A8", "Morelist_highlight_text": "FFFFFF",
     "Morelist_highlight_disabled_text": "C8BEEE",
     "Morelist_popup_frame": "8FE8D0", "Morelist_popup_shadow": "04091C",

@@ -6,6 +6,7 @@
 #include "forms/dialogs.h"
 #include "forms/filelistbox.h"
 #include "forms/picturebox.h"
+#include "preview/screens.h"
 #include "shell/files.h"
 #include "shell/state.h"
 #include "theme/archive.h"
@@ -16,17 +17,6 @@
 namespace quillane {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The drawing boxes that `ClearPreview` clears; those of 3G keep theirs.
-constexpr const char* kClearedPanes[] = {
-    "picStandby", "picDesktop",     "picMenu_0",      "picMenu_1",      "picMenu_2",
-    "picMenu_3",  "picPopupMenu_0", "picPopupMenu_1", "picPopupMenu_2", "picPopupMenu_3",
-    "picNotes",   "picCalendar",    "picWapbrowser",
-};
-
-}  // namespace
 
 void frmBrowser::filFiles_Click() {
   if (InListUpdate) return;
@@ -155,8 +145,9 @@ void frmBrowser::mnuEditItem_Invert() {
 }
 
 void frmBrowser::ClearPreview() {
-  for (const char* pane : kClearedPanes)
-    findChild<PictureBox*>(QLatin1String(pane))->Cls();
+  // The panes of 3G keep their drawing.
+  for (const Screen<clsVistrel>& screen : screensOfGeneration2())
+    findChild<PictureBox*>(screen.pane)->Cls();
   showXml({});
   enableNavigation(false, false);
   for (QWidget* button : std::initializer_list<QWidget*>{ui_->btnEdit, ui_->btnExport,

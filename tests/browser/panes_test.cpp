@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browser/panemenus.h"
 #include "browserfixture.h"
+#include "preview/screens.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -33,6 +34,35 @@ class Panes : public BrowserTest {
     return captions;
   }
 };
+
+/// Each pane of a generation shows what the engine paints, inside the margin.
+template <class Engine>
+void expectScreens(const frmBrowser& browser, Engine& engine,
+                   std::span<const Screen<Engine>> screens, QSize size, std::size_t panes) {
+  for (const Screen<Engine>& screen : screens) {
+    auto* pane = browser.findChild<PictureBox*>(screen.pane);
+    if (!pane) continue;
+    --panes;
+    Surface surface(size);
+    engine.setSurface(surface);
+    screen.paint(engine);
+    const QRect inside(QPoint(5, 5), size - QSize(10, 11));
+    EXPECT_EQ(pane->surface().image().copy(inside), surface.image().copy(inside))
+        << screen.id.data();
+  }
+  EXPECT_EQ(panes, 0U);
+}
+
+TEST_F(Panes, ShowTheScreensOfTheirGeneration) {
+  addTheme("a.thm", "<Background Color=\"0x112233\"/>");
+  addTheme("b.thm", "<Background Color=\"0x112233\"/>", true);
+  openAt(1);
+  expectScreens(*browser, *state.PreviewEngine3G, screensOf3G(), Surface::kSize3G, 6);
+  EXPECT_TRUE(shown("picPreview_1") && !shown("picPreview_0"));
+  select(0);
+  expectScreens(*browser, *state.PreviewEngine2, screensOfGeneration2(), Surface::kSize2, 13);
+  EXPECT_TRUE(shown("picPreview_0") && !shown("picPreview_1"));
+}
 
 TEST_F(Panes, OfferTheImagesOfGeneration2) {
   addTheme("a.thm", kImages2, false, {"b.gif", "s.gif"});
