@@ -47,7 +47,7 @@ int widthOf(const QString& text, const FontSpec& font) {
 /// The text, or its beginning and an ellipsis where it is too wide.
 QString fitting(const QString& whole, int width, const FontSpec& font) {
   const QString text = whole.left(width);  // No letter is narrower than a pixel.
-  if (text.size() == whole.size() && widthOf(text, font) <= width) return text;
+  if (text.size() == whole.size() && widthOf(text, font) <= width) return whole;
   for (qsizetype length = text.size() - 1; length > 0; --length) {
     QString begin = text.left(length).trimmed() + QChar(0x2026);
     if (widthOf(begin, font) <= width) return begin;
