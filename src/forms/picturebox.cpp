@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/picturebox.h"
 
+#include "forms/formcolors.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -10,10 +12,6 @@ namespace quillane {
 namespace {
 
 constexpr int kBorder = 2;
-
-ColorValue colorValueOf(const QColor& color) {
-  return static_cast<ColorValue>(color.red() | color.green() << 8 | color.blue() << 16);
-}
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "forms/clsopensave.h"
 #include "forms/dialogs.h"
 
 #include <QList>
@@ -29,9 +30,43 @@ class ScriptedDialogs : public Dialogs {
     script_.push_back({prompt, answer});
   }
 
+  /// A file dialog, told by its title; an empty path cancels it. Afterwards `lastFile` holds how
+  /// the dialog was filled.
+  void expectFile(const QString& title, const QString& path, int filterIndex = 1) {
+    script_.push_back({title, path});
+    filterIndex_ = filterIndex;
+  }
+  /// The colour dialog, told by the colour it begins with as RRGGBB; an empty answer cancels it.
+  void expectColor(const QString& initial, const QString& answer) {
+    script_.push_back({"colour " + initial, answer});
+  }
+
+  /// A file dialog's fields before its answer.
+  struct FileFields {
+    FileQuestion question;
+    QString folder, fileName, extension, filter;
+  };
+  FileFields lastFile{};
+  CustomColors customColors{};  ///< What the last colour dialog was given.
+
   void message(QWidget*, MessageIcon, const QString&, const QString& text) override { take(text); }
   QString chooseFolder(QWidget*, const QString& prompt, const QString&) override {
     return take(prompt);
+  }
+  bool chooseFile(QWidget*, clsOpenSave& request, FileQuestion question) override {
+    lastFile = {question, request.InitDir, request.FileName, request.DefaultExt, request.Filter};
+    const QString path = take(request.DialogTitle);
+    if (path.isEmpty()) return false;
+    request.FileName = path;
+    request.FilterIndex = filterIndex_;
+    return true;
+  }
+  std::optional<ColorValue> chooseColor(QWidget*, ColorValue initial,
+                                        CustomColors& custom) override {
+    customColors = custom;
+    const QString answer = take("colour " + ColorToHtml(QString::number(initial)));
+    if (answer.isEmpty()) return {};
+    return colorValueOf(answer);
   }
   void beep() override { ++beeps; }
 
@@ -45,6 +80,7 @@ class ScriptedDialogs : public Dialogs {
   }
 
   QList<std::pair<QString, QString>> script_;
+  int filterIndex_ = 1;
 };
 
 }  // namespace quillane
