@@ -29,13 +29,6 @@ QString textOf(const QString& entry) {
   return entry.mid(2);
 }
 
-/// The sample list that an index picks.
-QStringList sampleOf(int index, const QString& first, const QString& second) {
-  if (index == 0) return splitList(first);
-  if (index == 1) return splitList(second);
-  return {};
-}
-
 }  // namespace
 
 void clsVistrel3G::DrawMenu(int index) {

@@ -18,7 +18,7 @@ void clsVistrel3G::DrawSoftkeys(int index) {
   drawTitle(entryOf(splitList(SoftkeysMenuTitleText), index));
   paintBody();
 
-  const QStringList rows = splitList(index == 0 ? SoftkeysMenuText1 : SoftkeysMenuText2);
+  const QStringList rows = sampleOf(index, SoftkeysMenuText1, SoftkeysMenuText2);
   font_.Alignment = AlignLeft;
   font_.Bold = true;
   paintSlot(HighlightImage, HighlightColor, 5, 44, 128, 60);

@@ -18,4 +18,10 @@ QString entryOf(const QStringList& list, int index) {
   return list[index];
 }
 
+QStringList sampleOf(int index, const QString& first, const QString& second) {
+  if (index == 0) return splitList(first);
+  if (index == 1) return splitList(second);
+  return {};
+}
+
 }  // namespace quillane

@@ -13,4 +13,7 @@ QStringList splitList(const QString& list);
 /// An entry of such a list; throws `Fault` (BadIndex) beyond its ends.
 QString entryOf(const QStringList& list, int index);
 
+/// The entries of the sample that an index picks: 0 the first list, 1 the second, any other none.
+QStringList sampleOf(int index, const QString& first, const QString& second);
+
 }  // namespace quillane

@@ -164,7 +164,9 @@ TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
   engine.SoftkeysMenuText1 = "a|b|c|d|e";
   EXPECT_EQ(softkeys(0), 9);
   EXPECT_EQ(softkeys(1), 0);
+  engine.SoftkeysMenuTitleText = "1|2|3";
   EXPECT_EQ(softkeys(2), 9);
+  EXPECT_EQ(pixel(7, 148), kMargin) << "no third sample";
 
   engine.setImage(gen3g::TitleImage, path("none.gif"));
   EXPECT_EQ(softkeys(1), 53);
