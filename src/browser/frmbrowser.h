@@ -98,7 +98,6 @@ class frmBrowser : public QMainWindow {
 
   // Panes (frmbrowser_panes.cpp).
   void LoadTheme();
-  class LoadFaults;
   template <class Engine>
   void drawScreens(Engine& preview, Engine& editor, std::span<const Screen<Engine>> screens,
                    const FaultReporter& report);
@@ -106,6 +105,7 @@ class frmBrowser : public QMainWindow {
   void btnViewXML_Click();
   void mnuViewItem_SourceXml();
   void btnClipboardCopy_Click();
+  void btnPreviewAll_Click();
   bool offersPaneMenu() const;
   void showPaneMenu2(std::size_t pane, QPoint place);
   void showPaneMenu3G(std::size_t pane, QPoint place);

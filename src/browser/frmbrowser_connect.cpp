@@ -43,6 +43,7 @@ void frmBrowser::connectButtons() {
       {ui_->btnRefresh, &frmBrowser::btnRefresh_Click},
       {ui_->btnClipboardCopy, &frmBrowser::btnClipboardCopy_Click},
       {ui_->btnViewXML, &frmBrowser::btnViewXML_Click},
+      {ui_->btnPreviewAll, &frmBrowser::btnPreviewAll_Click},
   };
   for (const auto& [button, procedure] : rows)
     connect(button, &QAbstractButton::clicked, this,

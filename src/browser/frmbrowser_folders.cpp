@@ -93,10 +93,7 @@ void frmBrowser::refreshList() {
 }
 
 void frmBrowser::showCaption() {
-  QString folder = state_.BrowseFolder;
-  // The toolkit takes a single one for its mark of an unsaved document.
-  folder.replace("[*]"_L1, "[*][*]"_L1);
-  setWindowTitle(u"Quillane - Theme Browser -  [%1]"_s.arg(folder));
+  setWindowTitle(titleText(u"Quillane - Theme Browser -  [%1]"_s.arg(state_.BrowseFolder)));
 }
 
 void frmBrowser::showThemeCount() {

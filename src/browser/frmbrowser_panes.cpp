@@ -5,20 +5,19 @@
 #include "browser/panemenus.h"
 #include "forms/chourglass.h"
 #include "forms/dialogs.h"
-#include "forms/eventprocedure.h"
-#include "forms/picturebox.h"
-#include "preview/screens.h"
+#include "forms/heldfaults.h"
+#include "forms/paintscreen.h"
 #include "shell/dynamics.h"
 #include "shell/files.h"
 #include "shell/state.h"
 #include "theme/archive.h"
 #include "theme/load.h"
+#include "tools/frmpreviewall.h"
 #include "ui_frmbrowser.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QSet>
 
 #include <optional>
 #include <span>
@@ -37,35 +36,10 @@ constexpr int kHighestDesktopIcon = 9;
 
 }  // namespace
 
-/// The faults of one load, each text once: an image that cannot be read fails on every screen. They
-/// are shown when the theme is, not over the one before.
-class frmBrowser::LoadFaults {
- public:
-  explicit LoadFaults(frmBrowser& browser) : browser_(browser) {}
-
-  FaultReporter reporter() {
-    return [this](const Fault& fault) {
-      if (known_.contains(fault.description())) return;
-      known_.insert(fault.description());
-      waiting_.append(fault);
-    };
-  }
-
-  void show(const QString& tag) {
-    for (const Fault& fault : waiting_)
-      showFault(browser_.dialogs_, &browser_, fault, tag);
-    waiting_.clear();
-  }
-
- private:
-  frmBrowser& browser_;
-  QSet<QString> known_;
-  QList<Fault> waiting_;
-};
-
 void frmBrowser::LoadTheme() {
   const cHourglass wait;
-  LoadFaults faults(*this);
+  // Shown when the theme is, not over the one before.
+  HeldFaults faults;
   const std::optional<LoadedTheme> theme =
       loadTheme(state_.AppTempFolder, state_.ImageState, faults.reporter());
   if (!theme) {
@@ -80,7 +54,7 @@ void frmBrowser::LoadTheme() {
   const bool is3G = state_.ThemeGeneration == Generation::ThreeG;
   ui_->picPreview_0->setVisible(!is3G);
   ui_->picPreview_1->setVisible(is3G);
-  faults.show(kParseTag);
+  faults.show(dialogs_, this, kParseTag);
   if (is3G) {
     state_.PreviewEngine3G->takeTheme(theme->values);
     drawScreens(*state_.PreviewEngine3G, *state_.EditorEngine3G, screensOf3G(), faults.reporter());
@@ -89,7 +63,7 @@ void frmBrowser::LoadTheme() {
     drawScreens(*state_.PreviewEngine2, *state_.EditorEngine2, screensOfGeneration2(),
                 faults.reporter());
   }
-  faults.show(kDrawTag);
+  faults.show(dialogs_, this, kDrawTag);
   if (theme->warnings.isEmpty()) return;
   TipTitle = u"Errors in theme \"%1\""_s.arg(ui_->filFiles->item(state_.SelectedIndex));
   TipText = theme->warnings.join("\r\n"_L1);
@@ -108,13 +82,7 @@ void frmBrowser::drawScreens(Engine& preview, Engine& editor,
     } else if (screen.id == "desktop"_L1) {
       stepDesktopIcon(preview, kHighestDesktopIcon, state_, world_);
     }
-    preview.setSurface(pane->surface());
-    try {
-      screen.paint(preview);
-    } catch (const Fault& fault) {
-      report(fault);
-    }
-    pane->showSurface();
+    paintScreen(screen, preview, *pane, report);
   }
 }
 
@@ -140,6 +108,10 @@ void frmBrowser::mnuViewItem_SourceXml() {
 
 void frmBrowser::btnClipboardCopy_Click() {
   QGuiApplication::clipboard()->setText(state_.ThemeXml);
+}
+
+void frmBrowser::btnPreviewAll_Click() {
+  showPreviewAll(this, state_, dialogs_, world_);
 }
 
 void frmBrowser::makePaneMenus() {

@@ -53,6 +53,10 @@ QString widgetText(const QString& text) {
   return lines.join(u'\n');
 }
 
+QString titleText(QString text) {
+  return text.replace("[*]"_L1, "[*][*]"_L1);
+}
+
 void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& title,
                              const QString& text) {
   QMessageBox box(iconOf(icon), title, widgetText(text), QMessageBox::Ok, owner);

@@ -50,6 +50,10 @@ class Dialogs {
 /// person can read, since parts of it may come from a stranger's file.
 QString widgetText(const QString& text);
 
+/// A text of the program for the title of a window, whose toolkit takes a single "[*]" for its mark
+/// of an unsaved document.
+QString titleText(QString text);
+
 /// The dialogs of the desktop.
 class DesktopDialogs : public Dialogs {
  public:

@@ -7,7 +7,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace quillane {
 
@@ -158,6 +160,25 @@ TEST_F(Panes, StepTheirSimulatedPhone) {
   world.nextRandom = 0.999;
   select(1);
   EXPECT_EQ(state.PreviewEngine3G->DesktopIcon, 9) << "the last three are never selected";
+}
+
+TEST_F(Panes, OpenMorePreviewsOverTheWindow) {
+  addTheme("a.thm", "<Background Color=\"0x102030\"/>", true);
+  openAt(0);
+  QString caption;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    auto* strip = QApplication::activeModalWidget();
+    if (!strip || strip->windowTitle().endsWith("Drawing...")) return;
+    caption = strip->windowTitle();
+    EXPECT_EQ(strip->parentWidget(), browser.get());
+    EXPECT_EQ(strip->findChild<PictureBox*>("picPreview_0")->surface().image(),
+              control<PictureBox>("picStandby2").surface().image());
+    QTest::keyClick(strip, Qt::Key_Escape);
+  });
+  watch.start(1);
+  QTest::mouseClick(&control<QPushButton>("btnPreviewAll"), Qt::LeftButton);
+  EXPECT_EQ(caption, "Theme preview - [" + path("themes/a.thm") + "]");
 }
 
 }  // namespace
