@@ -18,6 +18,7 @@ constexpr const char* kWrongUses[][2] = {
     {"pack|x.thm", "\"OUT.thm FILE...\" is needed."},
     {"info|--jsn|x.thm", "Unknown option 'jsn'."},
     {"render|x.thm|--out|a|--sheet|b.png", "--out and --sheet exclude each other."},
+    {"render|x.thm|--sheet=", "--sheet needs a path."},
     {"render|x.thm|--signal|full", "\"full\" of --signal is no whole number."},
     {"render|x.thm|--gprs|on", "\"on\" of --gprs is no whole number."},
     {"render|x.thm|--border|wide", "\"wide\" of --border is none of none, single and default."},
