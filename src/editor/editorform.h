@@ -11,13 +11,14 @@
 #include <QList>
 #include <QMap>
 
+#include <functional>
 #include <memory>
 
 class QAbstractButton;
 class QGridLayout;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QToolButton;
 
 namespace Ui {
 class EditorForm;
@@ -28,12 +29,15 @@ namespace quillane {
 class ColorSwatch;
 class ImageButton;
 class PictureBox;
+class PreviewEngine;
+class clsOpenSave;
 
 /// What tells one editor from the other, beside its tables.
 struct EditorKind {
   Generation generation;
   const char* name;  ///< Of the form, as it stands in messages.
   const char* root;  ///< What a source text of the generation holds, letter case aside.
+  int autoSlot;      ///< The image slot that the file chosen for `btnAutoSelect` fills.
 };
 
 /// The editor of a theme, the same program for both generations. It works on an engine of its own,
@@ -57,30 +61,23 @@ class EditorForm : public QDialog {
   virtual void paintPanes(const FaultReporter& report) = 0;
   /// Asks for a colour, from `PickerColorIn` to `PickerColorOut`; false when it stays.
   virtual bool PickColor() = 0;
-  /// A new theme's editor is being filled, or the colours of a source have come in.
-  virtual void startPlain() {}
-  /// A slot has got a file.
-  virtual void imageFilled(int slot);
-  /// Whether a file that fits may fill its slot and others besides, for `btnAutoSelect`.
-  virtual void imageMatched(int slot, const QString& path);
-  /// The slot that the file chosen for `btnAutoSelect` fills.
-  virtual int firstAutoSlot() const = 0;
+  /// A slot has got a file that a person chose, on its own or with `btnAutoSelect`.
+  virtual void imageFilled(int slot, bool autoSelected);
 
-  PictureBox* pane(const QString& name) const { return panes_.value(name); }
   /// Redraws all previews, with the steps of the simulated phone.
   void DrawPreviews();
-  void setSlotPath(int slot, const QString& path);
+  PictureBox* pane(const QString& name) const { return panes_.value(name); }
+  int slotCount() const { return static_cast<int>(btnImage_.size()); }
   const QString& slotPath(int slot) const;
-  QAbstractButton* button(const char* name) const;
-  template <class Engine>
-  void paintAll(Engine& engine, std::span<const Screen<Engine>> screens, int highestDesktopIcon,
-                const std::function<QString(const Screen<Engine>&)>& paneOf,
-                const FaultReporter& report);
+  /// Puts a file, or none, into a slot and the engine.
+  void setSlotPath(int slot, const QString& path);
+  /// Shows one of the switches below the previews and connects it.
+  void useSwitch(QToolButton& button, const std::function<void()>& procedure);
 
   EditorDesk desk_;
+  std::unique_ptr<Ui::EditorForm> ui_;
 
  private:
-  using Procedure = void (EditorForm::*)();
   struct SlotControls {
     ColorSlot slot;
     int tab;
@@ -91,8 +88,8 @@ class EditorForm : public QDialog {
 
   // Building (editorform_build.cpp).
   void buildTabs();
+  QWidget* buildPage(int tab);
   QWidget* buildColorPage(int tab);
-  QGroupBox* buildGroup(int tab, const QString& caption);
   void addSlot(QGridLayout& grid, int tab, const ColorSlot& slot);
   void buildPanes();
   void buildImageSlots();
@@ -113,12 +110,14 @@ class EditorForm : public QDialog {
   void btnRevert_Click();
   void btnReset_Click();
   void lock(QLineEdit& field, bool locked);
+  /// The text box that a label of the information tab belongs to; null for none.
   QLineEdit* fieldOf(const QObject* label) const;
+  void keepKeyState(const QKeyEvent& event);
 
   // Colours (editorform_colors.cpp).
   void lblClr_Click(const SlotControls& controls);
   void showColor(const SlotControls& controls);
-  SlotControls& controlsOf(int color);
+  const SlotControls& controlsOf(int color) const;
 
   // Images (editorform_images.cpp).
   void ImagesToControls();
@@ -130,8 +129,12 @@ class EditorForm : public QDialog {
   void btnAutoSelect_Click();
   /// Leaves the size of a picture file in `ImageSizeW` and `ImageSizeH`.
   void measure(const QString& path, int filterIndex);
-  bool fits(int slot) const;
-  void fillSlot(int slot, const QString& path);
+  /// The size that was read last.
+  QSize measured() const;
+  const ImageElement& slotElement(int slot) const;
+  clsOpenSave imageDialog(const QString& title) const;
+  void fillSlot(int slot, const QString& path, bool autoSelected);
+  void matchImages(const QString& chosen, int firstSlot);
 
   // Source and files (editorform_files.cpp).
   QString GenerateXml() const;
@@ -143,9 +146,9 @@ class EditorForm : public QDialog {
   void btnImport_Click();
   /// Takes the colours of a source text; false when it is of no theme of this generation.
   bool takeSource(const QString& xml);
-  void ApplyXmlToEngine();
+  /// Every colour from the text, and no images.
+  void applyXmlToEngine(const QString& xml);
 
-  std::unique_ptr<Ui::EditorForm> ui_;
   const EditorKind& kind_;
   PreviewEngine& engine_;
   const PreviewEngine& shown_;

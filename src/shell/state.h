@@ -54,8 +54,12 @@ struct PublicState {
   ImageStates ImageState{};
   int SelectedIndex = -1;           ///< List index of the selected theme, -1 for none.
   std::uint8_t ThemeLoadCount = 0;  ///< Counts the loads between two battery steps.
-  std::uint8_t CapturePane = 0;     ///< The preview pane that was right-clicked last, from 1.
-  bool ShiftDown = false;           ///< State of the key at the last key event of a form.
+  int ImageSizeW = 0;               ///< Size in pixels of the picture file that was measured last.
+  int ImageSizeH = 0;
+  std::int32_t PickerColorIn = 0;    ///< The colour handed to the colour picker.
+  std::int32_t PickerColorOut = -1;  ///< Its answer; -1 for cancelled.
+  std::uint8_t CapturePane = 0;      ///< The preview pane that was right-clicked last, from 1.
+  bool ShiftDown = false;            ///< State of the key at the last key event of a form.
   bool CtrlDown = false;
 };
 

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/frmnew.h"
+
+#include "forms/formicons.h"
+#include "preview/clsvistrel.h"
+#include "preview/clsvistrel3g.h"
+#include "preview/surface.h"
+#include "shell/language.h"
+#include "shell/settings.h"
+#include "shell/state.h"
+#include "ui_frmnew.h"
+
+namespace quillane {
+
+namespace {
+
+/// The icon of a button: a screen of an engine that shows no theme.
+template <class Engine>
+QIcon iconOf(Engine& engine, QSize size, void (Engine::*draw)()) {
+  Surface surface(size);
+  engine.setSurface(surface);
+  skipOnFault([&] { (engine.*draw)(); });
+  return QPixmap::fromImage(
+      surface.image().copy(QRect(QPoint(), size).marginsRemoved({5, 5, 5, 6})));
+}
+
+}  // namespace
+
+frmNew::frmNew(QWidget* owner, const EditorDesk& desk)
+    : QDialog(owner), ui_(std::make_unique<Ui::frmNew>()) {
+  ui_->setupUi(this);
+  const auto quiet = [](const Fault&) {};  // The start has told of the language file.
+  clsVistrel two(desk.world);
+  InitPreview2(two, desk.state, desk.settings, quiet);
+  clsVistrel3G threeG(desk.world);
+  InitPreview3G(threeG, desk.state, desk.settings, quiet);
+  ui_->btnNew_0->setIcon(iconOf(two, Surface::kSize2, &clsVistrel::DrawDesktop));
+  ui_->btnNew_1->setIcon(iconOf(two, Surface::kSize2, &clsVistrel::DrawMenuMedium));
+  ui_->btnNew_2->setIcon(iconOf(threeG, Surface::kSize3G, &clsVistrel3G::DrawDesktop));
+  QAbstractButton* const buttons[] = {ui_->btnNew_0, ui_->btnNew_1, ui_->btnNew_2};
+  for (int index = 0; QAbstractButton * button : buttons) {
+    button->setCursor(Qt::PointingHandCursor);
+    connect(button, &QAbstractButton::clicked, this, [this, index] {
+      choice_ = index;
+      accept();
+    });
+    ++index;
+  }
+  ui_->btnCancel->setIcon(formIcon(102));
+  connect(ui_->btnCancel, &QAbstractButton::clicked, this, &QDialog::reject);
+}
+
+frmNew::~frmNew() = default;
+
+}  // namespace quillane

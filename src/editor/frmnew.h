@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/editor.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmNew;
+}
+
+namespace quillane {
+
+/// Asks which kind of theme to make.
+class frmNew : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// The buttons show screens with the default colours and the texts of the person's language.
+  frmNew(QWidget* owner, const EditorDesk& desk);
+  ~frmNew() override;
+
+  /// The button that was clicked, from 0, or -1.
+  int choice() const { return choice_; }
+
+ private:
+  std::unique_ptr<Ui::frmNew> ui_;
+  int choice_ = -1;
+};
+
+}  // namespace quillane
