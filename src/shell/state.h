@@ -31,6 +31,7 @@ struct PublicState {
   QString ConfigFolder3G;      ///< Language files of 3G.
   QString LanguageFile2;       ///< Bare name of the language file of generation 2.
   QString LanguageFile3G;      ///< Bare name of the language file of 3G.
+  QString PalettesFolder;      ///< Where palette files are looked for.
   QString UserPalette;         ///< Path of the user's palette file, or empty.
 
   bool DisableETT = false;       ///< The writer leaves out the authoring tags.
