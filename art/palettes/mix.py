@@ -58,7 +58,7 @@ def inks():
         (122, 24, 38),  # oxblood
         (196, 44, 24),  # vermilion
         (30, 84, 52),  # verdigris
-        (0, 96, 116),  # turquoise
+        (14, 96, 116),  # turquoise
         (20, 40, 112),  # blue-black
         (76, 30, 110),  # violet
     )

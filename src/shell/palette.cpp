@@ -155,9 +155,9 @@ struct Tone {
   int light;
 };
 
-constexpr Tone kTones[] = {{0, 85},  {0, 68},   {0, 51},   {0, 34},  {0, 17},  {0, 0},
-                           {0, -20}, {0, -40},  {0, -60},  {0, -80}, {55, 64}, {55, 32},
-                           {55, 0},  {55, -28}, {55, -52}, {55, -74}};
+constexpr Tone kTones[] = {{0, 85},  {0, 68},  {0, 51},   {0, 34},  {0, 17},  {0, 0},
+                           {0, -20}, {0, -38}, {0, -56},  {0, -74}, {55, 68}, {55, 46},
+                           {55, 23}, {55, 0},  {55, -28}, {55, -56}};
 
 unsigned mixed(unsigned part, unsigned other, int share) {
   const unsigned weight = static_cast<unsigned>(share);
