@@ -6,6 +6,7 @@
 #include "preview/clsvistrel3g.h"
 #include "theme/values.h"
 
+#include <QObject>
 #include <QString>
 
 #include <memory>
@@ -53,11 +54,15 @@ struct PublicState {
   QString ThemeXmlPath;   ///< Its extracted XML file.
   Generation ThemeGeneration = Generation::Two;
   ImageStates ImageState{};
-  int SelectedIndex = -1;           ///< List index of the selected theme, -1 for none.
-  std::uint8_t ThemeLoadCount = 0;  ///< Counts the loads between two battery steps.
-  std::uint8_t CapturePane = 0;     ///< The preview pane that was right-clicked last, from 1.
-  bool ShiftDown = false;           ///< State of the key at the last key event of a form.
+  int SelectedIndex = -1;            ///< List index of the selected theme, -1 for none.
+  std::uint8_t ThemeLoadCount = 0;   ///< Counts the loads between two battery steps.
+  std::uint8_t CapturePane = 0;      ///< The preview pane that was right-clicked last, from 1.
+  std::int32_t PickerColorIn = 0;    ///< The colour handed to the colour picker.
+  std::int32_t PickerColorOut = -1;  ///< Its answer; -1 for cancelled.
+  bool ShiftDown = false;            ///< State of the key at the last key event of a form.
   bool CtrlDown = false;
+
+  std::unique_ptr<QObject> ColorPicker;  ///< The picker's form, once it was used.
 };
 
 }  // namespace quillane
