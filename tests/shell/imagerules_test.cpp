@@ -59,16 +59,11 @@ TEST_F(ImageRules, PicturesAreToldByTheirContent) {
 TEST_F(ImageRules, SlotsTakeTheirSizes) {
   const std::tuple<Generation, int, QSize, bool> rows[] = {
       {Generation::Two, gen2::BackgroundImage, {101, 80}, true},
-      {Generation::Two, gen2::BackgroundImage, {1, 1}, true},
       {Generation::Two, gen2::BackgroundImage, {102, 80}, false},
       {Generation::Two, gen2::DesktopBackgroundImage, {101, 81}, false},
-      {Generation::Two, gen2::DesktopBackgroundImage, {100, 80}, true},
       {Generation::Two, gen2::TitleImageSmall, {101, 20}, true},
       {Generation::Two, gen2::TitleImageSmall, {100, 20}, false},
-      {Generation::Two, gen2::TitleImageMedium, {101, 27}, true},
-      {Generation::Two, gen2::TitleImageLarge, {101, 16}, true},
       {Generation::Two, gen2::TitleImageAsian, {101, 15}, false},
-      {Generation::ThreeG, gen3g::WallpaperImage, {128, 127}, true},
       {Generation::ThreeG, gen3g::WallpaperImage, {127, 127}, false},
       {Generation::ThreeG, gen3g::MoreListPopupHighlightImage, {113, 16}, true}};
   for (const auto& [generation, slot, size, taken] : rows)

@@ -9,8 +9,6 @@
 #include "theme/writer.h"
 
 #include <QDateTime>
-#include <QProcess>
-#include <QStandardPaths>
 
 namespace quillane {
 
@@ -111,7 +109,7 @@ TEST_F(Save, PacksAndListsWhatTheSlotsSay) {
       EXPECT_TRUE(save("My.New.thm", edited, {}, options, shown));
       const QString index = options.includeIndex ? "index.txt " : "";
       EXPECT_EQ(membersOf("My.New.thm"), ("my.xml " + index + images).trimmed().split(' '));
-      const LoadedTheme theme = load(path("My.New.thm"), "out");
+      load(path("My.New.thm"), "out");
       const QString xml = generateXml(edited, {});
       const QString packed = options.compress ? compressXml(xml) : xml;
       EXPECT_EQ(read("out/my.xml"), packed.toLatin1());
@@ -123,19 +121,6 @@ TEST_F(Save, PacksAndListsWhatTheSlotsSay) {
   EXPECT_EQ(faultNumberOf([&] { save("My.New.thm", bare, {}, {true, true}, &withSmall); }), 53);
   EXPECT_TRUE(save("My.New.thm", bare, {}, {false, true}, &withSmall));
   EXPECT_EQ(log.texts(), QStringList());
-}
-
-TEST_F(Save, WritesWhatOtherProgramsRead) {
-  const QString tar = QStandardPaths::findExecutable("tar");
-  if (tar.isEmpty()) GTEST_SKIP() << "There is no tar.";
-  save("a.thm", withImages(Generation::Two, {{gen2::TitleImageMedium, "M.gif"}}));
-  QProcess process;
-  process.start(tar, {"-tvf", path("a.thm")});
-  ASSERT_TRUE(process.waitForFinished());
-  EXPECT_EQ(process.readAllStandardError(), "");
-  const QString list = process.readAllStandardOutput();
-  EXPECT_EQ(list.count("-rw-r--r-- 0/0"), 3);
-  EXPECT_TRUE(list.endsWith(" m.gif\n"));
 }
 
 TEST_F(Save, SampleThemesComeBackAndTheSameSaveGivesTheSameBytes) {
@@ -190,6 +175,7 @@ TEST_F(Save, OddTextsComeBackAsFarAsTheFormHoldsThem) {
       const QByteArray xml = read("out/a.xml");
       EXPECT_TRUE(kept.isEmpty() ? !xml.contains(given) : xml.contains('<' + kept + "/>"))
           << xml.constData();
+      EXPECT_EQ(xml.count("Color=\"0x\"/>") > 40, root.startsWith("Sony"));
     }
 }
 
@@ -208,56 +194,37 @@ TEST_F(Save, SomeTagsReadBackDifferently) {
   }
 }
 
-TEST_F(Save, EmptyColoursOf3GComeBackEmpty) {
-  write("in/a.xml", "<Sony_Ericsson_theme><Title Color=\"0x123456\"/></Sony_Ericsson_theme>");
-  const LoadedTheme theme = loadTheme(path("in"), states, log.reporter()).value();
-  EXPECT_TRUE(save("a.thm", theme.values));
-  const LoadedTheme after = load(path("a.thm"), "out");
-  EXPECT_EQ(read("out/a.xml").count("Color=\"0x\"/>"), 48);
-  EXPECT_EQ(after.values.color(gen3g::TitleColor), "123456");
-  EXPECT_EQ(contentOf(after), contentOf(theme));
-}
-
 TEST_F(Save, LeavesTheOldThemeWhereItFails) {
-  ThemeValues values = withImages(Generation::Two, {{gen2::BackgroundImage, "back.gif"}});
+  const ThemeValues values(Generation::Two);
   ThemeValues gone = values;
   gone.setImage(gen2::DesktopBackgroundImage, path("gone.gif"));
-  write("Old.thm", "old");
-  makeFolder("locked");
-  EXPECT_EQ(faultNumberOf([&] { save("Old.thm", gone); }), 53) << "measured for the index";
-  EXPECT_FALSE(save("Old.thm", gone, {}, {false, true})) << "packed";
+  write("t/Old.thm", "old");
+  QFile::setPermissions(makeFolder("work"), QFile::Permissions(0x7777));
+  EXPECT_EQ(faultNumberOf([&] { save("t/Old.thm", gone); }), 53) << "measured for the index";
+  EXPECT_FALSE(save("t/Old.thm", gone, {}, {false, true})) << "packed";
   EXPECT_FALSE(save("no folder/Old.thm", values));
   {
     const FileSizeLimit limit(3000);  // Enough for the XML alone.
-    EXPECT_FALSE(save("Old.thm", values));
+    EXPECT_FALSE(save("t/Old.thm", values));
   }
   {
     const FileSizeLimit limit(1000);
-    EXPECT_EQ(faultNumberOf([&] { save("Old.thm", values); }), 57);
+    EXPECT_EQ(faultNumberOf([&] { save("t/Old.thm", values); }), 57);
   }
-  EXPECT_EQ(read("Old.thm"), "old");
-  EXPECT_EQ(listOf("work"), QStringList());
-  EXPECT_EQ(listOf(""), QStringList({"Old.thm", "locked", "pictures", "work"}));
-  EXPECT_EQ(log.texts().size(), 3);
-}
-
-TEST_F(Save, LeavesTheOldThemeOnAFullDiskAndInALockedFolder) {
-  const ThemeValues values(Generation::Two);
-  makeFolder("work");
-  QFile::setPermissions(path("work"), QFile::Permissions(0x7777));
-  write("locked/Old.thm", "old");
   {
     const WithoutPrivilege nobody;
-    EXPECT_FALSE(save("locked/Old.thm", values));
+    EXPECT_FALSE(save("t/Old.thm", values));
   }
-  EXPECT_EQ(read("locked/Old.thm"), "old");
   const SmallDisk disk(makeFolder("small"));
-  if (!disk.isMounted()) GTEST_SKIP() << "No right to mount a small file system.";
-  write("small/Old.thm", "old");
-  write("small/rest", QByteArray(60'000, 'x'));
-  EXPECT_FALSE(save("small/Old.thm", values));
-  EXPECT_EQ(read("small/Old.thm"), "old");
-  EXPECT_EQ(listOf("small"), QStringList({"Old.thm", "rest"}));
+  if (disk.isMounted()) {
+    write("small/Old.thm", "old");
+    write("small/rest", QByteArray(60'000, 'x'));
+    EXPECT_FALSE(save("small/Old.thm", values));
+    EXPECT_EQ(read("small/Old.thm"), "old");
+  }
+  EXPECT_EQ(read("t/Old.thm"), "old");
+  EXPECT_EQ(listOf("work"), QStringList());
+  EXPECT_EQ(listOf("t"), QStringList("Old.thm"));
 }
 
 TEST_F(Save, CleansItsFolderAndNoOther) {
