@@ -26,6 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kWarningPicture = 109;
+constexpr int kCoverLine = 3;
 
 const QString kNewTheme = u"New Theme"_s;
 
@@ -126,13 +127,25 @@ void EditorForm::btnTabs_Click(int tab) {
     panes_[name]->show();
     ++place;
   }
-  ui_->switches->parentWidget();
   layout->setRowStretch(layout->rowCount(), 1);
   layout->setColumnStretch(2, 1);
-  ui_->tabButtons->activate();
-  const QRect button = btnTabs_[tab]->geometry();
+  for (const auto& [button, name] : switches_)
+    button->setVisible(name.isEmpty() ? !tabs_[tab].panes.isEmpty()
+                                      : tabs_[tab].panes.contains(name));
+  placeCoverLine();
+}
+
+void EditorForm::placeCoverLine() {
+  const QRect button = btnTabs_[CurrentTab]->geometry();
   const QPoint corner = ui_->tabBar->mapTo(this, button.bottomLeft());
-  ui_->picCoverLine->setGeometry(corner.x(), corner.y() + 1, button.width(), 3);
+  ui_->picCoverLine->setGeometry(corner.x(), corner.y() + 1, button.width(), kCoverLine);
+}
+
+void EditorForm::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  layout()->activate();
+  ui_->tabButtons->activate();
+  placeCoverLine();
 }
 
 void EditorForm::CopyPreviewToEditor() {

@@ -56,6 +56,7 @@ class EditorForm : public QDialog {
 
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
   /// Paints every screen on its pane.
   virtual void paintPanes(const FaultReporter& report) = 0;
@@ -71,8 +72,9 @@ class EditorForm : public QDialog {
   const QString& slotPath(int slot) const;
   /// Puts a file, or none, into a slot and the engine.
   void setSlotPath(int slot, const QString& path);
-  /// Shows one of the switches below the previews and connects it.
-  void useSwitch(QToolButton& button, const std::function<void()>& procedure);
+  /// Connects one of the switches below the previews; it shows with the pane that it acts on, or
+  /// with any.
+  void useSwitch(QToolButton& button, const QString& pane, const std::function<void()>& procedure);
 
   EditorDesk desk_;
   std::unique_ptr<Ui::EditorForm> ui_;
@@ -102,6 +104,8 @@ class EditorForm : public QDialog {
   void loadNew();
   void readTags();
   void btnTabs_Click(int tab);
+  /// Moves the line below the tab on show.
+  void placeCoverLine();
   void showCaption();
   void CopyPreviewToEditor();
   void ColorsToControls();
@@ -161,6 +165,7 @@ class EditorForm : public QDialog {
   QList<SlotControls> slots_;
   QList<ImageButton*> btnImage_;
   QMap<QString, PictureBox*> panes_;
+  QList<std::pair<QToolButton*, QString>> switches_;  ///< In use, and the pane of each.
 };
 
 }  // namespace quillane

@@ -25,7 +25,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kWarningPicture = 109;
 constexpr int kPaneColumns = 2;
 constexpr int kBorder = 2;
 
@@ -44,7 +43,7 @@ constexpr ButtonPicture kButtonPictures[] = {
 /// The caption of an image slot: the word of its messages with a capital.
 QString slotCaption(const ImageElement& slot) {
   const QString word = slot.word;
-  return word.left(1).toUpper() + word.mid(1) + u':';
+  return word.left(1).toUpper() + word.mid(1);
 }
 
 }  // namespace
@@ -72,6 +71,8 @@ void EditorForm::buildTabs() {
   }
   ui_->tabButtons->addStretch();
   ui_->picCoverLine->raise();
+  ui_->picCoverLine->setAutoFillBackground(true);
+  ui_->picCoverLine->setBackgroundRole(QPalette::Highlight);
 }
 
 QWidget* EditorForm::buildPage(int tab) {
@@ -177,7 +178,7 @@ void EditorForm::buildImageSlots() {
     auto* button = new ImageButton;
     button->setObjectName(u"btnImage_%1"_s.arg(slot));
     const QString caption = slotCaption(images[static_cast<std::size_t>(slot)]);
-    button->setAccessibleName(caption.chopped(1));
+    button->setAccessibleName(caption);
     button->setToolTip(u"Right-click: remove the image"_s);
     auto* label = new QLabel(caption);
     const int column = 3 * (slot / rows);
@@ -193,8 +194,9 @@ void EditorForm::buildImageSlots() {
   }
 }
 
-void EditorForm::useSwitch(QToolButton& button, const std::function<void()>& procedure) {
-  button.show();
+void EditorForm::useSwitch(QToolButton& button, const QString& pane,
+                           const std::function<void()>& procedure) {
+  switches_.append({&button, pane});
   connect(&button, &QToolButton::clicked, this, procedure);
 }
 

@@ -10,6 +10,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr EditorKind kKind{Generation::Two, "frmEditor", "<Ericsson_theme>", gen2::BackgroundImage};
@@ -20,7 +22,7 @@ constexpr int kHighestDesktopIcon = 9;
 frmEditor::frmEditor(QWidget* owner, const EditorDesk& desk, bool openExisting)
     : EditorForm(owner, desk, kKind, *desk.state.EditorEngine2, *desk.state.PreviewEngine2),
       vistrel_(*desk.state.EditorEngine2) {
-  useSwitch(*ui_->btnView, [this] { btnView_Click(); });
+  useSwitch(*ui_->btnView, u"picStandby"_s, [this] { btnView_Click(); });
   Form_Load(openExisting);
   ui_->btnView->setChecked(vistrel_.StandbyType == 1);
 }

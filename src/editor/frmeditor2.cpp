@@ -49,8 +49,8 @@ constexpr PaneRow kPanes[] = {
 frmEditor2::frmEditor2(QWidget* owner, const EditorDesk& desk, bool openExisting)
     : EditorForm(owner, desk, kKind, *desk.state.EditorEngine3G, *desk.state.PreviewEngine3G),
       vistrel_(*desk.state.EditorEngine3G) {
-  useSwitch(*ui_->btnMore, [this] { DrawPreviews(); });
-  useSwitch(*ui_->btnDrawImages, [this] { btnDrawImages_Click(); });
+  useSwitch(*ui_->btnMore, u"picPopupMenu_0"_s, [this] { DrawPreviews(); });
+  useSwitch(*ui_->btnDrawImages, {}, [this] { btnDrawImages_Click(); });
   vistrel_.DrawImages = true;
   Form_Load(openExisting);
 }
