@@ -44,6 +44,10 @@ def crane(scene, x, y, size):
                     for pair in (roots, tips)]
             brush(0.05, *ends)
 
+    def plumage(part, colour):
+        scene.paint("3A3730", smooth(0.08, 0.45, scene.blur(part, 0.4)) * 0.85)
+        scene.paint(colour, part)
+
     body = scene.polygon(at((-0.38, -0.03), (-0.22, -0.10), (0.06, -0.09), (0.42, 0.03),
                             (0.20, 0.10), (-0.10, 0.11), (-0.30, 0.05)))
     near = scene.polygon(at((-0.22, -0.04), (-0.12, -0.36), (0.04, -0.64), (0.30, -0.92),
@@ -51,11 +55,9 @@ def crane(scene, x, y, size):
     far = scene.polygon(at((-0.22, -0.04), (-0.34, -0.40), (-0.36, -0.72), (-0.26, -0.98),
                            (-0.12, -0.84), (-0.08, -0.55), (-0.04, -0.30), (0.0, -0.04)))
     brush(0.05, (0.30, 0.04), (0.66, 0.10), (1.0, 0.13))
-    for part, colour in ((far, "D2CABA"), (np.maximum(body, near), "FFFEF8")):
-        scene.paint("3A3730", smooth(0.08, 0.45, scene.blur(part, 0.4)) * 0.85)
-        scene.paint(colour, part)
-        if colour == "D2CABA":
-            feathers(((-0.28, -0.80), (-0.10, -0.54)), ((-0.26, -1.02), (-0.06, -0.76)), 4)
+    plumage(far, "D2CABA")
+    feathers(((-0.28, -0.80), (-0.10, -0.54)), ((-0.26, -1.02), (-0.06, -0.76)), 4)
+    plumage(np.maximum(body, near), "FFFEF8")
     feathers(((0.16, -0.62), (0.24, -0.20)), ((0.38, -0.96), (0.52, -0.34)), 5)
     brush(0.06, (0.26, 0.02), (0.44, 0.06))
     brush(0.07, (-0.40, -0.02), (-0.58, -0.03), (-0.80, -0.11))

@@ -147,13 +147,14 @@ def desktop():
 def scales(left, right):
     """A title bar of carp scales between two colours."""
     scene = Scene(101, 16)
-    scene.paint(ramp([(0, left), (1, right)], scene.x / 101))
+    ground = ramp([(0, left), (1, right)], scene.x / 101)
+    scene.paint(ground)
     for row in range(4, -1, -1):  # An upper row lies over the one below it.
         for number in range(-1, 12):
             x, y = 10 * number + 5 * (row % 2) + 0.5, 4 * row - 3
             reach = np.hypot((scene.x - x) / 5, (scene.y - y) / 5.6)
             scale = (reach <= 1).astype(float)
-            scene.paint(ramp([(0, left), (1, right)], scene.x / 101), scale)
+            scene.paint(ground, scale)
             scene.light("FFE8C0", scale * smooth(0.35, 0.75, reach) * 0.12)
             scene.paint("000000", scale * smooth(0.74, 0.96, reach) * 0.42)
             scene.paint("000000", scale * smooth(0.6, 0.0, (scene.y - y) / 5.6) * 0.20)

@@ -76,12 +76,8 @@ void frmBrowser::drawScreens(Engine& preview, Engine& editor,
   for (const Screen<Engine>& screen : screens) {
     auto* pane = findChild<PictureBox*>(screen.pane);
     if (!pane) continue;
-    if (screen.id == "standby"_L1) {
-      stepSignal(preview, state_, world_);
-      stepBattery(preview, editor, state_);
-    } else if (screen.id == "desktop"_L1) {
-      stepDesktopIcon(preview, kHighestDesktopIcon, state_, world_);
-    }
+    stepPhone(screen.id, preview, kHighestDesktopIcon, state_, world_);
+    if (screen.id == "standby"_L1) stepBattery(preview, editor, state_);
     paintScreen(screen, preview, *pane, report);
   }
 }

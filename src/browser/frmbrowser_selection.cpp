@@ -173,6 +173,8 @@ void frmBrowser::enableCopying(bool on) {
 }
 
 void frmBrowser::updateMenus() {
+  // A failed theme leaves the 3G panes and their button in view.
+  ui_->btnPreviewAll->setEnabled(!ThemeFailed);
   enableMenuItems(*this, SelectedCount, ThemeFailed);
 }
 

@@ -4,6 +4,7 @@
 
 #include "preview/previewengine.h"
 
+#include <QDate>
 #include <QString>
 
 namespace quillane {
@@ -52,16 +53,16 @@ class clsVistrel : public PreviewEngine {
   /// The frame of a popup over what is there, filled with an RRGGBB colour; its edges keep the
   /// padding. Unlike the screens it throws `Fault` for a colour that is none or a padding without
   /// a second number.
-  void DrawWindow(const QString& color);
+  void DrawWindow(const QString& rgb);
   /// Up to five centred lines, "|" between them, inside the padding; more lines draw nothing.
-  void DrawCenterText(const QString& text, int size, bool bold, const QString& color);
+  void DrawCenterText(const QString& text, int size, bool bold, const QString& rgb);
   /// Leaves the window empty; its text is `DrawCenterText` of `PopupWindowText`.
   void DrawPopupWindow();
   void DrawPopupMenu();
   void DrawPopupInput();
   /// Ends with the padding "3 5", whatever it was.
   void DrawNotesWindow();
-  /// The month of today; its third Saturday is marked.
+  /// The month of today; the Saturday in the third row is marked, whatever the day.
   void DrawCalendar();
   void DrawWAPBrowser();
 
@@ -69,11 +70,17 @@ class clsVistrel : public PreviewEngine {
   void PlaceScreenImage(PaintSteps& steps, const QString& path, const QString& fill);
   struct MenuLook;
   void DrawMenu(const MenuLook& look);
+  /// An empty screen in the background colour; texts are as high as the surface's font at a size in
+  /// points.
+  PaintSteps startScreen(int points);
   /// Rounds the top of a title bar.
-  void PaintTitleCorners(PaintSteps& steps);
-  void PaintTitleBar(PaintSteps& steps, const QString& title);
+  void paintTitleCorners(PaintSteps& steps);
+  void paintTitleBar(PaintSteps& steps, const QString& title);
   /// The backdrop, the window and the title bar of a popup; leaves its title font behind.
-  void PaintPopupTitle(PaintSteps& steps, const QString& title);
+  PaintSteps startPopup(const QString& title);
+  /// The marked cell of the calendar and, in the title bar, its day and week; leaves the font of
+  /// its number behind.
+  void paintMark(PaintSteps& steps, const QDate& day);
 };
 
 }  // namespace quillane

@@ -98,6 +98,12 @@ void clsVistrel3G::paintBody() {
   paintSlot(GeneralBackgroundImage, BackgroundColor, 5, 42, 133, 146);
 }
 
+void clsVistrel3G::startScreen() {
+  surface_->Cls();
+  DrawStatusBar();
+  paintTitleBar();
+}
+
 void clsVistrel3G::drawTitle(const QString& text) {
   DrawShadowText(text, TitleTextColor, TitleTextShadowColor, 6, 24, AlignCentre);
 }

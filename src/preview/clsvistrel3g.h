@@ -49,9 +49,10 @@ class clsVistrel3G : public PreviewEngine {
   void DrawDesktop();
   /// `index` 0 paints the first sample list with normal keys, 1 the second with an activated key.
   void DrawSoftkeys(int index);
-  /// A list; `index` 0 or 1 picks the sample, any other has no rows.
+  /// A list of six rows; `index` 0 or 1 picks the sample. Throws `Fault` where an entry is missing.
   void DrawMenu(int index);
-  /// The More list over a list, samples as in `DrawMenu`. A step that fails is skipped.
+  /// The More list over an empty list, samples as in `DrawMenu`. A missing entry repeats the one
+  /// before; a step that fails is skipped.
   void DrawPopupMenu(int index);
   /// The month of today.
   void DrawCalendar();
@@ -82,11 +83,14 @@ class clsVistrel3G : public PreviewEngine {
   void DrawStatusBar();
   void paintTitleBar();
   void paintBody();
+  /// A cleared surface with the status bar and an empty title bar.
+  void startScreen();
+  /// The frame of a window over an empty list with a title; a step that fails is skipped.
+  void startWindow(const QString& title);
   /// A text in the title bar.
   void drawTitle(const QString& text);
   /// The number of a day's week at the left of the title bar.
   void drawWeekNumber(const QDate& day);
-  QString format(const QDate& day, const QString& pattern) const;
   /// `mode` 0 has a right key only for exactly two labels, 1 leaves a gap between two keys, 2 shows
   /// the left key disabled and the right one pressed.
   void DrawSoftkeyBar(const QString& text, int mode);

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/clsvistrel3g.h"
-#include "preview/dateformat.h"
 #include "preview/monthview.h"
 #include "preview/pipelist.h"
 #include "preview/surface.h"
@@ -23,22 +22,16 @@ constexpr int kSunday = 6;
 
 }  // namespace
 
-QString clsVistrel3G::format(const QDate& day, const QString& pattern) const {
-  return formatDate(day, pattern, world_->locale(), Qt::Monday);
-}
-
 void clsVistrel3G::drawWeekNumber(const QDate& day) {
   font_.Alignment = AlignLeft;
   setTextColor(TitleTextColor);
-  drawText(format(day, u"ww"_s), 13, 24, 128);
+  drawText(calendarText(day, u"ww"_s, *world_), 13, 24, 128);
 }
 
 void clsVistrel3G::DrawCalendar() {
   const QDate today = world_->now().date();
-  surface_->Cls();
-  DrawStatusBar();
-  paintTitleBar();
-  drawTitle(format(today, u"mmm yyyy"_s));
+  startScreen();
+  drawTitle(calendarText(today, u"mmm yyyy"_s, *world_));
   paintBody();
 
   DrawFilledRect(*surface_, kWhite, 9, 57, 128, 141);
@@ -71,16 +64,14 @@ void clsVistrel3G::DrawCalendar() {
     } else {
       font_.Color = kBlack;
     }
-    drawText(format(day, u"d"_s), -96 + x, 58 + y, 120);
+    drawText(calendarText(day, u"d"_s, *world_), -96 + x, 58 + y, 120);
   }
 
   DrawSoftkeyBar(CalendarSoftkeyText, 0);
 }
 
 void clsVistrel3G::DrawWeekCalendar() {
-  surface_->Cls();
-  DrawStatusBar();
-  paintTitleBar();
+  startScreen();
   paintBody();
 
   DrawFilledRect(*surface_, kWhite, 31, 58, 129, 146);
@@ -123,7 +114,7 @@ void clsVistrel3G::DrawWeekCalendar() {
 
   const QDate today = world_->now().date();
   const QDate saturday = today.addDays((Qt::Saturday - today.dayOfWeek() + 7) % 7);
-  drawTitle(format(saturday, u"d mmm yyyy"_s));
+  drawTitle(calendarText(saturday, u"d mmm yyyy"_s, *world_));
   font_.Bold = false;
   drawWeekNumber(saturday);
   DrawSoftkeyBar(CalendarSoftkeyText, 0);

@@ -21,20 +21,10 @@ constexpr RowColors<gen3g::Color> kMoreListColors{
     MoreListHighlightColor, MoreListTextColor, MoreListDisabledTextColor,
     MoreListHighlightTextColor, MoreListHighlightDisabledTextColor};
 
-QString flagsOf(const QString& entry) {
-  return entry.left(2);
-}
-
-QString textOf(const QString& entry) {
-  return entry.mid(2);
-}
-
 }  // namespace
 
 void clsVistrel3G::DrawMenu(int index) {
-  surface_->Cls();
-  DrawStatusBar();
-  paintTitleBar();
+  startScreen();
   drawTitle(entryOf(splitList(TitleText), index));
   paintBody();
 
@@ -45,8 +35,8 @@ void clsVistrel3G::DrawMenu(int index) {
     const QString entry = entryOf(entries, row);
     const QString flags = flagsOf(entry);
     if (isHighlighted(flags)) paintSlot(HighlightImage, kMenuColors.highlight, 5, y, 128, y + 16);
-    setTextColor(kMenuColors.of(rowTextOf(flags)));
-    drawText(textOf(entry), 9, y + 1, 128);
+    setTextColor(kMenuColors.textOf(flags));
+    drawText(entry.mid(2), 9, y + 1, 128);
   }
 
   fill(ScrollbarFrameColor, 128, 42, 133, 146);
@@ -55,12 +45,7 @@ void clsVistrel3G::DrawMenu(int index) {
 }
 
 void clsVistrel3G::DrawPopupMenu(int index) {
-  surface_->Cls();
-  skipOnFault([&] { DrawStatusBar(); });
-  skipOnFault([&] { paintTitleBar(); });
-  skipOnFault([&] { drawTitle(u"Wallpaper"_s); });
-  skipOnFault([&] { paintBody(); });
-  skipOnFault([&] { DrawPopupFrame(MoreListBackgroundColor, 4, 24, 123, 136); });
+  startWindow(u"Wallpaper"_s);
   skipOnFault([&] { paintSlot(MoreListPopupTitleImage, MoreListTitleColor, 10, 30, 128, 53); });
   skipOnFault([&] {
     DrawShadowText(entryOf(splitList(MoreListTitleText), index), MoreListTitleTextColor,
@@ -78,8 +63,8 @@ void clsVistrel3G::DrawPopupMenu(int index) {
       skipOnFault([&] {
         paintSlot(MoreListPopupHighlightImage, kMoreListColors.highlight, 10, y, 123, y + 16);
       });
-    skipOnFault([&] { setTextColor(kMoreListColors.of(rowTextOf(flags))); });
-    drawText(textOf(entry), 13, y + 1, 128);
+    skipOnFault([&] { setTextColor(kMoreListColors.textOf(flags)); });
+    drawText(entry.mid(2), 13, y + 1, 128);
   }
 
   skipOnFault([&] { fill(MoreListScrollbarFrameColor, 123, 53, 128, 141); });

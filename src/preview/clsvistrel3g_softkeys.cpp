@@ -11,10 +11,7 @@ namespace quillane {
 using namespace gen3g;
 
 void clsVistrel3G::DrawSoftkeys(int index) {
-  surface_->Cls();
-  DrawStatusBar();
-
-  paintTitleBar();
+  startScreen();
   drawTitle(entryOf(splitList(SoftkeysMenuTitleText), index));
   paintBody();
 

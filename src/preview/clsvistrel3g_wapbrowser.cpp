@@ -12,9 +12,7 @@ void clsVistrel3G::DrawWAPBrowser() {
   constexpr ColorValue kBlack = 0;
   constexpr ColorValue kWhite = 0xFFFFFF;
 
-  surface_->Cls();
-  DrawStatusBar();
-  paintTitleBar();
+  startScreen();
   drawTitle(WapbrowserTitleText);
 
   DrawFilledRect(*surface_, kWhite, 5, 42, 133, 146);

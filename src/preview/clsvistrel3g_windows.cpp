@@ -25,36 +25,35 @@ void clsVistrel3G::DrawNotesWindow() {
     drawText(lines[line], 15, y, 110);
 }
 
-void clsVistrel3G::DrawProgressWindow() {
+void clsVistrel3G::startWindow(const QString& title) {
   surface_->Cls();
   skipOnFault([&] { DrawStatusBar(); });
   skipOnFault([&] { paintTitleBar(); });
-  skipOnFault([&] { drawTitle(u"Themes"_s); });
+  skipOnFault([&] { drawTitle(title); });
   skipOnFault([&] { paintBody(); });
   skipOnFault([&] { DrawPopupFrame(MoreListBackgroundColor, 4, 24, 123, 136); });
+}
+
+void clsVistrel3G::DrawProgressWindow() {
+  startWindow(u"Themes"_s);
 
   font_.Alignment = AlignCentre;
   skipOnFault([&] { setTextColor(MoreListTextColor); });
   drawText(ProgressWindowText, 15, 74, 106);
 
-  const auto box = [this](void (*draw)(Surface&, ColorValue, int, int, int, int), Color which,
-                          int x1, int y1, int x2, int y2) {
-    skipOnFault([&] { draw(*surface_, colorValueOf(color(which)), x1, y1, x2, y2); });
-  };
-  box(DrawFilledBox, MoreListTitleTextColor, 14, 124, 123, 136);
-  box(DrawBox, MoreListTextColor, 14, 124, 123, 136);
-  box(DrawFilledBox, MoreListTitleColor, 25, 126, 60, 134);
+  skipOnFault([&] {
+    DrawFilledBox(*surface_, colorValueOf(color(MoreListTitleTextColor)), 14, 124, 123, 136);
+  });
+  skipOnFault(
+      [&] { DrawBox(*surface_, colorValueOf(color(MoreListTextColor)), 14, 124, 123, 136); });
+  skipOnFault(
+      [&] { DrawFilledBox(*surface_, colorValueOf(color(MoreListTitleColor)), 25, 126, 60, 134); });
 
   skipOnFault([&] { paintSlot(SoftkeysBackgroundImage, BackgroundColor, 5, 146, 133, 165); });
 }
 
 void clsVistrel3G::DrawAcceptWindow() {
-  surface_->Cls();
-  skipOnFault([&] { DrawStatusBar(); });
-  skipOnFault([&] { paintTitleBar(); });
-  skipOnFault([&] { drawTitle(u"Wallpaper"_s); });
-  skipOnFault([&] { paintBody(); });
-  skipOnFault([&] { DrawPopupFrame(MoreListBackgroundColor, 4, 24, 123, 136); });
+  startWindow(u"Wallpaper"_s);
   skipOnFault([&] { paintIcon(2600, 14, 34); });
   skipOnFault([&] {
     DrawOutlineText(AcceptWindowText, MoreListTextShadowColor, MoreListTextColor, 5, 123,

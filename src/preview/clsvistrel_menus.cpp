@@ -13,8 +13,11 @@ using namespace gen2;
 
 namespace {
 
-/// Rows of a menu and the tops of the first one's label and digit.
-struct FirstRow {
+constexpr RowColors<gen2::Color> kRowColors{HighlightColor, TextColor, DisabledTextColor,
+                                            HighlightTextColor, HighlightDisabledTextColor};
+
+/// How many rows a menu has, and the tops of the first one's label and digit.
+struct RowPlaces {
   int count;
   int labelTop;
   int digitTop;
@@ -25,56 +28,80 @@ struct FirstRow {
 /// What tells the three menus apart; pixels and points.
 struct clsVistrel::MenuLook {
   QString clsVistrel::*list;
+  int title;  ///< Entry of `TitleText`.
   gen2::Image titleImage;
   int fontSize;
   bool bold;
-  FirstRow plain;
-  FirstRow belowImage;
+  RowPlaces plain;
+  RowPlaces belowImage;
   int rowStep;
-  int highlightHeight;     ///< From the digit's top.
-  int titleBottom;         ///< Of the coloured bar.
-  int firstCroppedHeight;  ///< Title images below it are shown whole.
-  int croppedHeight;
-  int title;  ///< Entry of `TitleText`.
+  int highlightHeight;  ///< From the digit's top.
+  int titleBottom;      ///< Of the coloured bar.
+  int croppedHeight;    ///< Higher title images are cropped to it.
   int titleTop;
 };
 
-namespace {
-
-constexpr RowColors<gen2::Color> kRowColors{HighlightColor, TextColor, DisabledTextColor,
-                                            HighlightTextColor, HighlightDisabledTextColor};
-
-}  // namespace
-
-// clang-format off
 void clsVistrel::DrawMenuSmall() {
-  DrawMenu({&clsVistrel::MenuSmallText, TitleImageSmall, 7, false,
-            {7, 14, 14}, {6, 24, 24}, 10, 11, 15, 21, 20, 0, 4});
+  DrawMenu({.list = &clsVistrel::MenuSmallText,
+            .title = 0,
+            .titleImage = TitleImageSmall,
+            .fontSize = 7,
+            .bold = false,
+            .plain = {.count = 7, .labelTop = 14, .digitTop = 14},
+            .belowImage = {.count = 6, .labelTop = 24, .digitTop = 24},
+            .rowStep = 10,
+            .highlightHeight = 11,
+            .titleBottom = 15,
+            .croppedHeight = 20,
+            .titleTop = 4});
 }
 
 void clsVistrel::DrawMenuMedium() {
-  DrawMenu({&clsVistrel::MenuMediumText, TitleImageMedium, 8, true,
-            {5, 19, 21}, {4, 32, 34}, 13, 12, 19, 28, 27, 1, 5});
+  DrawMenu({.list = &clsVistrel::MenuMediumText,
+            .title = 1,
+            .titleImage = TitleImageMedium,
+            .fontSize = 8,
+            .bold = true,
+            .plain = {.count = 5, .labelTop = 19, .digitTop = 21},
+            .belowImage = {.count = 4, .labelTop = 32, .digitTop = 34},
+            .rowStep = 13,
+            .highlightHeight = 12,
+            .titleBottom = 19,
+            .croppedHeight = 27,
+            .titleTop = 5});
 }
 
 void clsVistrel::DrawMenuLarge() {
-  DrawMenu({&clsVistrel::MenuLargeText, TitleImageLarge, 9, true,
-            {4, 22, 25}, {4, 22, 25}, 15, 12, 21, 17, 16, 2, 5});
+  DrawMenu({.list = &clsVistrel::MenuLargeText,
+            .title = 2,
+            .titleImage = TitleImageLarge,
+            .fontSize = 9,
+            .bold = true,
+            .plain = {.count = 4, .labelTop = 22, .digitTop = 25},
+            .belowImage = {.count = 4, .labelTop = 22, .digitTop = 25},
+            .rowStep = 15,
+            .highlightHeight = 12,
+            .titleBottom = 21,
+            .croppedHeight = 16,
+            .titleTop = 5});
 }
-// clang-format on
 
-void clsVistrel::DrawMenu(const MenuLook& look) {
+PaintSteps clsVistrel::startScreen(int points) {
   PaintSteps steps(*surface_);
-  steps.setSurfaceFont(look.fontSize);
+  steps.setSurfaceFont(points);
   surface_->Cls();
   steps.fill(color(BackgroundColor), 5, 5, 106, 85);
+  return steps;
+}
 
+void clsVistrel::DrawMenu(const MenuLook& look) {
+  PaintSteps steps = startScreen(look.fontSize);
   const QString& titleImage = image(look.titleImage);
-  const FirstRow& first = titleImage.isEmpty() ? look.plain : look.belowImage;
+  const RowPlaces& rows = titleImage.isEmpty() ? look.plain : look.belowImage;
   paintDigitRows(steps, values_, splitList(this->*look.list), kRowColors,
-                 {.count = first.count,
-                  .labelTop = first.labelTop,
-                  .digitTop = first.digitTop,
+                 {.count = rows.count,
+                  .labelTop = rows.labelTop,
+                  .digitTop = rows.digitTop,
                   .step = look.rowStep,
                   .highlightHeight = look.highlightHeight,
                   .left = 5,
@@ -87,10 +114,10 @@ void clsVistrel::DrawMenu(const MenuLook& look) {
 
   if (titleImage.isEmpty()) {
     steps.fill(color(TitleColor), 5, 5, 106, look.titleBottom);
-    PaintTitleCorners(steps);
+    paintTitleCorners(steps);
   } else {
     steps.load(titleImage);
-    if (steps.picture().height() < look.firstCroppedHeight)
+    if (steps.picture().height() <= look.croppedHeight)
       surface_->PaintPicture(steps.picture(), 5, 5);
     else
       surface_->PaintPicture(steps.picture(), 5, 5, 0, 0, 101, look.croppedHeight);
@@ -103,11 +130,7 @@ void clsVistrel::DrawMenu(const MenuLook& look) {
 }
 
 void clsVistrel::DrawMenuInput() {
-  PaintSteps steps(*surface_);
-  steps.setSurfaceFont(8);
-  surface_->Cls();
-  steps.fill(color(BackgroundColor), 5, 5, 106, 85);
-
+  PaintSteps steps = startScreen(8);
   steps.font.Size = 8;
   steps.font.Bold = true;
   steps.font.Alignment = AlignLeft;
@@ -117,10 +140,10 @@ void clsVistrel::DrawMenuInput() {
   steps.setTextColor(color(CursorColor));
   steps.text(u"|"_s, 7, 28, 101);
 
-  PaintTitleBar(steps, splitList(TitleText).value(3));
+  paintTitleBar(steps, splitList(TitleText).value(3));
 }
 
-void clsVistrel::PaintTitleCorners(PaintSteps& steps) {
+void clsVistrel::paintTitleCorners(PaintSteps& steps) {
   const QString black = u"000000"_s;
   steps.line(black, 5, 5, 7, 5);
   steps.line(black, 5, 5, 5, 7);
@@ -128,9 +151,9 @@ void clsVistrel::PaintTitleCorners(PaintSteps& steps) {
   steps.line(black, 105, 5, 105, 7);
 }
 
-void clsVistrel::PaintTitleBar(PaintSteps& steps, const QString& title) {
+void clsVistrel::paintTitleBar(PaintSteps& steps, const QString& title) {
   steps.fill(color(TitleColor), 5, 5, 106, 19);
-  PaintTitleCorners(steps);
+  paintTitleCorners(steps);
   steps.font.Alignment = AlignCentre;
   steps.font.Bold = true;
   steps.font.Size = 8;

@@ -61,36 +61,36 @@ int paddingOf(const QString& paddings, int index) {
 
 }  // namespace
 
-void clsVistrel::DrawWindow(const QString& color) {
+void clsVistrel::DrawWindow(const QString& rgb) {
   const int l = paddingOf(PopupPaddingLeftTop, 0);
   const int t = paddingOf(PopupPaddingLeftTop, 1);
   const auto line = [this](const ColorValue value, int x1, int y1, int x2, int y2) {
     DrawLine(*surface_, x1, y1, x2, y2, value);
   };
 
-  const ColorValue frame = colorValueOf(this->color(PopupFrameColor));
+  const ColorValue frame = colorValueOf(color(PopupFrameColor));
   line(frame, l + 6, t + 5, 104 - l, t + 5);
   line(frame, l + 5, t + 6, l + 5, 83 - t);
   line(frame, l + 6, 83 - t, 104 - l, 83 - t);
   line(frame, 104 - l, t + 6, 104 - l, 83 - t);
-  DrawFilledRect(*surface_, colorValueOf(color), l + 6, t + 6, 104 - l, 83 - t);
+  DrawFilledRect(*surface_, colorValueOf(rgb), l + 6, t + 6, 104 - l, 83 - t);
   line(frame, l + 6, t + 6, l + 7, t + 7);
   line(frame, l + 6, 82 - t, l + 6, 83 - t);
   line(frame, 103 - l, t + 6, 104 - l, t + 6);
   line(frame, 103 - l, 82 - t, 104 - l, 82 - t);
 
-  const ColorValue shadow = colorValueOf(this->color(PopupShadowColor));
+  const ColorValue shadow = colorValueOf(color(PopupShadowColor));
   line(shadow, l + 7, 84 - t, 105 - l, 84 - t);
   line(shadow, 105 - l, t + 7, 105 - l, 84 - t);
   line(shadow, 104 - l, 83 - t, 105 - l, 83 - t);
 }
 
-void clsVistrel::DrawCenterText(const QString& text, int size, bool bold, const QString& color) {
+void clsVistrel::DrawCenterText(const QString& text, int size, bool bold, const QString& rgb) {
   PaintSteps steps(*surface_);
   steps.font.Alignment = AlignCentre;
   steps.font.Size = size;
   steps.font.Bold = bold;
-  steps.setTextColor(color);
+  steps.setTextColor(rgb);
   int padding = 0;
   skipOnFault([&] { padding = paddingOf(PopupPaddingLeftTop, 0); });
   const QStringList entries = splitList(text);
@@ -111,7 +111,11 @@ void clsVistrel::DrawNotesWindow() {
   PopupPaddingLeftTop = u"3 5"_s;
 }
 
-void clsVistrel::PaintPopupTitle(PaintSteps& steps, const QString& title) {
+PaintSteps clsVistrel::startPopup(const QString& title) {
+  DrawMenuInput();
+  skipOnFault([&] { DrawWindow(color(PopupBackgroundColor)); });
+
+  PaintSteps steps(*surface_);
   steps.font.Size = 8;
   steps.font.Bold = true;
   steps.font.Alignment = AlignCentre;
@@ -121,21 +125,16 @@ void clsVistrel::PaintPopupTitle(PaintSteps& steps, const QString& title) {
   steps.line(color(PopupFrameColor), 100, 11, 101, 11);
   steps.shadowedText(title, 9, 10, 92, color(PopupTitleTextColor),
                      color(PopupTitleTextShadowColor));
+  return steps;
 }
 
 void clsVistrel::DrawPopupMenu() {
-  DrawMenuInput();
-  skipOnFault([&] { DrawWindow(color(PopupBackgroundColor)); });
-  PaintSteps steps(*surface_);
-  PaintPopupTitle(steps, splitList(PopupTitleText).value(0));
+  PaintSteps steps = startPopup(splitList(PopupTitleText).value(0));
   paintDigitRows(steps, values_, splitList(PopupMenuText), kRowColors, kRows);
 }
 
 void clsVistrel::DrawPopupInput() {
-  DrawMenuInput();
-  skipOnFault([&] { DrawWindow(color(PopupBackgroundColor)); });
-  PaintSteps steps(*surface_);
-  PaintPopupTitle(steps, splitList(PopupTitleText).value(1));
+  PaintSteps steps = startPopup(splitList(PopupTitleText).value(1));
 
   steps.font.Alignment = AlignLeft;
   steps.font.Bold = false;

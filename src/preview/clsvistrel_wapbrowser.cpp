@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/clsvistrel.h"
 #include "preview/paintsteps.h"
-#include "preview/surface.h"
 
 namespace quillane {
 
@@ -10,11 +9,7 @@ using namespace Qt::StringLiterals;
 using namespace gen2;
 
 void clsVistrel::DrawWAPBrowser() {
-  PaintSteps steps(*surface_);
-  steps.setSurfaceFont(8);
-  surface_->Cls();
-  steps.fill(color(BackgroundColor), 5, 5, 106, 85);
-
+  PaintSteps steps = startScreen(8);
   steps.font.Size = 8;
   steps.font.Bold = true;
   steps.font.Alignment = AlignCentre;
@@ -37,7 +32,7 @@ void clsVistrel::DrawWAPBrowser() {
   steps.line(underline, 5, 70, 44, 70);
   steps.line(underline, 5, 83, 90, 83);
 
-  PaintTitleBar(steps, u"Mobile internet"_s);
+  paintTitleBar(steps, u"Mobile internet"_s);
 }
 
 }  // namespace quillane

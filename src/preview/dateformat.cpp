@@ -144,9 +144,4 @@ QString formatDate(const QDateTime& time, const QString& pattern, const QLocale&
   return out;
 }
 
-QString formatDate(const QDate& day, const QString& pattern, const QLocale& locale,
-                   Qt::DayOfWeek firstDay) {
-  return formatDate(QDateTime(day, QTime(0, 0), Qt::UTC), pattern, locale, firstDay);
-}
-
 }  // namespace quillane

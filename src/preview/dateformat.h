@@ -17,8 +17,4 @@ namespace quillane {
 QString formatDate(const QDateTime& time, const QString& pattern, const QLocale& locale,
                    Qt::DayOfWeek firstDay = Qt::Sunday);
 
-/// The same for the begin of a day.
-QString formatDate(const QDate& day, const QString& pattern, const QLocale& locale,
-                   Qt::DayOfWeek firstDay = Qt::Sunday);
-
 }  // namespace quillane

@@ -14,12 +14,12 @@ void paintDigitRows(PaintSteps& steps, const ThemeValues& theme, const QStringLi
     const int labelTop = rows.labelTop + row * rows.step;
     const int digitTop = rows.digitTop + row * rows.step;
     entry = entries.value(row, entry);
-    const QString flags = entry.left(2);
+    const QString flags = flagsOf(entry);
 
     if (isHighlighted(flags))
       steps.fill(theme.color(colors.highlight), rows.left, labelTop, rows.right,
                  digitTop + rows.highlightHeight);
-    steps.setTextColor(theme.color(colors.of(rowTextOf(flags))));
+    steps.setTextColor(theme.color(colors.textOf(flags)));
     steps.font.Size = 7;
     steps.font.Bold = false;
     steps.text(entry.mid(2, 1), rows.digitLeft, digitTop, 5);

@@ -6,12 +6,14 @@
 
 namespace quillane {
 
-/// How the flags at the begin of a list's entry want its row: "H" anywhere in them highlights it,
-/// "HD", "H-" and "-D" decide the colour of its text.
-enum class RowText { Normal, Disabled, Highlighted, HighlightedDisabled };
+/// The two letters at the beginning of a list's entry that tell how its row looks.
+inline QString flagsOf(const QString& entry) {
+  return entry.left(2);
+}
 
-bool isHighlighted(const QString& flags);
-RowText rowTextOf(const QString& flags);
+inline bool isHighlighted(const QString& flags) {
+  return flags.contains(u'H');
+}
 
 /// The colours of a list's rows, as indexes into the theme's colours.
 template <class Color>
@@ -22,17 +24,10 @@ struct RowColors {
   Color highlightText;
   Color highlightDisabledText;
 
-  Color of(RowText look) const {
-    switch (look) {
-      case RowText::Disabled:
-        return disabledText;
-      case RowText::Highlighted:
-        return highlightText;
-      case RowText::HighlightedDisabled:
-        return highlightDisabledText;
-      case RowText::Normal:
-        break;
-    }
+  Color textOf(const QString& flags) const {
+    if (flags.contains(QLatin1String("HD"))) return highlightDisabledText;
+    if (flags.contains(QLatin1String("H-"))) return highlightText;
+    if (flags.contains(QLatin1String("-D"))) return disabledText;
     return text;
   }
 };

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview/monthview.h"
 
+#include "preview/dateformat.h"
+#include "preview/world.h"
+
 namespace quillane {
 
 QDate FirstOfMonth(const QDate& date) {
@@ -11,6 +14,10 @@ QDate FirstOfMonth(const QDate& date) {
 QDate firstCellOf(const QDate& date) {
   const QDate first = FirstOfMonth(date);
   return first.addDays(1 - first.dayOfWeek());
+}
+
+QString calendarText(const QDate& day, const QString& pattern, const PreviewWorld& world) {
+  return formatDate(QDateTime(day, QTime(0, 0), Qt::UTC), pattern, world.locale(), Qt::Monday);
 }
 
 }  // namespace quillane

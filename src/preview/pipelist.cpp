@@ -14,7 +14,8 @@ QStringList splitList(const QString& list) {
 
 QString entryOf(const QStringList& list, int index) {
   if (index < 0 || index >= list.size())
-    throw Fault(FaultNumber::BadIndex, u"Subscript out of range"_s);
+    throw Fault(FaultNumber::BadIndex, u"The text list \"%1\" of a screen has no entry %2."_s.arg(
+                                           list.join(u'|'), QString::number(index + 1)));
   return list[index];
 }
 

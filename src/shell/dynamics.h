@@ -25,6 +25,14 @@ void stepDesktopIcon(Engine& engine, int highest, const PublicState& state, Prev
   if (state.ActiveDesktop) engine.DesktopIcon = randomUpTo(highest, world);
 }
 
+/// Steps the part of the simulated phone that a screen shows, before it is painted.
+template <typename Engine>
+void stepPhone(QLatin1String screen, Engine& engine, int highestDesktopIcon,
+               const PublicState& state, PreviewWorld& world) {
+  if (screen == QLatin1String("standby")) stepSignal(engine, state, world);
+  if (screen == QLatin1String("desktop")) stepDesktopIcon(engine, highestDesktopIcon, state, world);
+}
+
 /// Counts a load and lets the battery of a generation fall by one in ten of them.
 template <typename Engine>
 void stepBattery(Engine& preview, Engine& editor, PublicState& state) {

@@ -137,6 +137,9 @@ const std::span<const OptionRow> kRenderOptions{kRows};
 RenderOptions readRenderOptions(const QCommandLineParser& given) {
   if (given.isSet(u"out"_s) && given.isSet(u"sheet"_s))
     throw UsageError(u"--out and --sheet exclude each other."_s);
+  for (const QString& place : {u"out"_s, u"sheet"_s})
+    if (given.isSet(place) && given.value(place).isEmpty())
+      throw UsageError(u"--%1 needs a path."_s.arg(place));
   RenderOptions options;
   options.settings = readSettings(given);
   if (given.isSet(u"screens"_s)) options.screens = given.value(u"screens"_s).split(u',');

@@ -6,6 +6,8 @@
 #include "preview/modapigraphics.h"
 #include "preview/surface.h"
 
+#include <algorithm>
+
 namespace quillane {
 
 using namespace Qt::StringLiterals;
@@ -13,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kMostColumns = 7;
+constexpr int kLeastWidth = 250;  // For the heading.
 constexpr int kMargin = 12;
 constexpr int kGap = 10;
 constexpr int kTitleHeight = 17;
@@ -42,8 +45,9 @@ int widthOf(const QString& text, const FontSpec& font) {
 }
 
 /// The text, or its beginning and an ellipsis where it is too wide.
-QString fitting(const QString& text, int width, const FontSpec& font) {
-  if (widthOf(text, font) <= width) return text;
+QString fitting(const QString& whole, int width, const FontSpec& font) {
+  const QString text = whole.left(width);  // No letter is narrower than a pixel.
+  if (text.size() == whole.size() && widthOf(text, font) <= width) return text;
   for (qsizetype length = text.size() - 1; length > 0; --length) {
     QString begin = text.left(length).trimmed() + QChar(0x2026);
     if (widthOf(begin, font) <= width) return begin;
@@ -64,7 +68,7 @@ class SheetLayout {
     const int rows = (screens + kMostColumns - 1) / kMostColumns;
     columns_ = (screens + rows - 1) / rows;
     top_ = kMargin + kTitleHeight + kLineHeight + kGap;
-    size_ = QSize(2 * kMargin + columns_ * (cellWidth() + kGap) - kGap,
+    size_ = QSize(std::max(kLeastWidth, 2 * kMargin + columns_ * (cellWidth() + kGap) - kGap),
                   top_ + rows * (cellHeight() + kGap) - kGap + kMargin);
   }
 

@@ -26,8 +26,8 @@ void saveScreens(const std::vector<RenderedScreen>& screens, const QString& fold
 
 SheetHeading headingOf(const OpenedTheme& opened, const FaultReporter& report) {
   const ThemeTagTexts tags = readThemeTags(opened.theme.xml, report);
-  const QString& name = tags.at(0);
-  const QString& creator = tags.at(1);
+  const QString name = printable(tags.at(0)).simplified();
+  const QString creator = printable(tags.at(1)).simplified();
   const QString phones = opened.generation() == Generation::Two ? u"Generation 2"_s : u"3G"_s;
   return {name.isEmpty() ? QFileInfo(opened.fileName).completeBaseName() : name,
           creator.isEmpty() ? phones : u"%1, by %2"_s.arg(phones, creator)};

@@ -13,11 +13,12 @@
 #include "ui_frmpreviewall.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QShowEvent>
 #include <QTimer>
+#include <QWindow>
 
-#include <algorithm>
 #include <utility>
 
 namespace quillane {
@@ -34,6 +35,8 @@ constexpr int kProgressStep = 36;
 constexpr int kFullProgress = 500;
 
 constexpr int kHighestDesktopIcon = 12;
+
+const QString kDrawing = u"Drawing..."_s;
 
 // With the keyboard's focus, a level scroll bar would go left for the right arrow key.
 constexpr std::pair<Qt::Key, QAbstractSlider::SliderAction> kScrollKeys[] = {
@@ -76,8 +79,8 @@ void frmPreviewAll::Form_Load() {
   loadPanes();
   const int width = static_cast<int>(picPreview_.size()) * kStep - kGap;
   ui_->picBackground->resize(width, ui_->picBackground->height());
-  ui_->hsbScroll->setMaximum(std::max(0, width - ui_->Picture1->width()));
-  hideStrip();
+  ui_->hsbScroll->setMaximum(width - ui_->Picture1->width());
+  setWindowTitle(caption(kDrawing));
 }
 
 void frmPreviewAll::loadPanes() {
@@ -104,8 +107,7 @@ void frmPreviewAll::Form_Activate() {
   HeldFaults faults;
   {
     const cHourglass wait;
-    // The window is to show before the work starts.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    waitUntilShown();
     if (!isVisible()) return;
     paintScreens(faults.reporter());
     showStrip();
@@ -113,28 +115,33 @@ void frmPreviewAll::Form_Activate() {
   faults.show(dialogs_, this, u"in Quillane.frmPreviewAll.Form_Activate "_s);
 }
 
+// A desktop's window manager takes its time, and what is painted before that is lost.
+void frmPreviewAll::waitUntilShown() {
+  constexpr int kLongestWait = 1000;
+  const QDeadlineTimer deadline(kLongestWait);
+  do {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  } while (isVisible() && !windowHandle()->isExposed() && !deadline.hasExpired());
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void frmPreviewAll::paintScreens(const FaultReporter& report) {
-  for (qsizetype index = 0; index < picPreview_.size(); ++index) {
-    const Screen<clsVistrel3G>& screen = screensOf3G()[static_cast<std::size_t>(index)];
-    if (screen.id == "standby"_L1)
-      stepSignal(engine_, state_, world_);
-    else if (screen.id == "desktop"_L1)
-      stepDesktopIcon(engine_, kHighestDesktopIcon, state_, world_);
-    paintScreen(screen, engine_, *picPreview_[index], report);
-    const bool isLast = index == picPreview_.size() - 1;
-    showProgress(isLast ? kFullProgress
-                        : std::min(kFullProgress, kProgressStep * static_cast<int>(index + 1)));
+  for (int painted = 0; const Screen<clsVistrel3G>& screen : screensOf3G()) {
+    stepPhone(screen.id, engine_, kHighestDesktopIcon, state_, world_);
+    paintScreen(screen, engine_, *picPreview_[painted], report);
+    ++painted;
+    showProgress(painted == picPreview_.size() ? kFullProgress : kProgressStep * painted);
   }
 }
 
 void frmPreviewAll::showProgress(int column) {
-  DrawFilledRect(ui_->picProgress->surface(), colorValueOf(palette().color(QPalette::Highlight)), 0,
-                 0, column + 1, 22);
+  DrawFilledBox(ui_->picProgress->surface(), colorValueOf(palette().color(QPalette::Highlight)), 0,
+                0, column, 21);
   ui_->picProgress->repaint();
 }
 
 void frmPreviewAll::hideStrip() {
-  setWindowTitle(caption(u"Drawing..."_s));
+  setWindowTitle(caption(kDrawing));
   ui_->picBackground->hide();
   ui_->hsbScroll->hide();
   ui_->picProgress->Cls();

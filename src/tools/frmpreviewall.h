@@ -40,6 +40,8 @@ class frmPreviewAll : public QDialog {
   void connectSignals();
   void Form_Load();
   void Form_Activate();
+  /// The window is to show before the work starts.
+  void waitUntilShown();
   void hsbScroll_Change();
   void loadPanes();
   /// Back to the caption and the empty bar of a window that waits for its screens.

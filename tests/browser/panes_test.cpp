@@ -179,6 +179,13 @@ TEST_F(Panes, OpenMorePreviewsOverTheWindow) {
   watch.start(1);
   QTest::mouseClick(&control<QPushButton>("btnPreviewAll"), Qt::LeftButton);
   EXPECT_EQ(caption, "Theme preview - [" + path("themes/a.thm") + "]");
+
+  addDamaged("b.thm");
+  click("btnRefresh");
+  select(0);
+  EXPECT_TRUE(enabled("btnPreviewAll"));
+  select(1);
+  EXPECT_FALSE(enabled("btnPreviewAll")) << "the screens of the theme before are still in view";
 }
 
 }  // namespace

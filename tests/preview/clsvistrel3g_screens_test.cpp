@@ -9,10 +9,7 @@ namespace quillane {
 
 namespace {
 
-constexpr QRgb kMargin = 0xFFD4D0C8;
 constexpr QRgb kGround = 0xFFC0DFFF;
-constexpr QRgb kRed = 0xFFFF0000;
-constexpr QRgb kGreen = 0xFF00FF00;
 constexpr QRgb kBlack = 0xFF000000;
 constexpr QRgb kWhite = 0xFFFFFFFF;
 
@@ -83,20 +80,20 @@ TEST_F(Vistrel3GScreensTest, AListTooShortEndsTheMenuAndRepeatsInTheMoreList) {
 TEST_F(Vistrel3GScreensTest, SomeScreensSkipWhatFailsAndTheOthersEnd) {
   const QString none = path("none.gif");
   const QString green = write("green.gif", tinyGif({200, 200}, {0, 0, 200, 200}, 2));
-  // The id, and the pixel below the title bar that fails.
-  const std::pair<const char*, bool> table[] = {{"menu-1", false},         {"popup-menu-1", true},
-                                                {"progress-window", true}, {"accept-window", true},
-                                                {"calendar", false},       {"week-calendar", false},
-                                                {"wap-browser", false}};
+  const QStringList skipping{"popup-menu-1", "popup-menu-2", "progress-window", "accept-window"};
+  const QStringList untitled{"standby", "desktop", "notes"};
   engine.setImage(gen3g::TitleImage, none);
   engine.setImage(gen3g::GeneralBackgroundImage, green);
-  for (const auto& [id, skips] : table)
-    for (const auto& screen : screensOf3G())
-      if (screen.id == QLatin1String(id)) {
-        EXPECT_EQ(faultNumberOf([&] { screen.paint(engine); }), skips ? 0 : 53) << id;
-        EXPECT_EQ(pixel(5, 25), kMargin) << id << ", no title";
-        EXPECT_EQ(pixel(5, 60), skips ? kGreen : kMargin) << id;
-      }
+  int skipped = 0;
+  for (const auto& screen : screensOf3G()) {
+    if (untitled.contains(screen.id)) continue;
+    const bool skips = skipping.contains(screen.id);
+    skipped += skips ? 1 : 0;
+    EXPECT_EQ(faultNumberOf([&] { screen.paint(engine); }), skips ? 0 : 53) << screen.id.data();
+    EXPECT_EQ(pixel(5, 25), kMargin) << screen.id.data() << ", no title";
+    EXPECT_EQ(pixel(5, 60), skips ? kGreen : kMargin) << screen.id.data();
+  }
+  EXPECT_EQ(skipped, skipping.size());
   engine.setImage(gen3g::MoreListPopupTitleImage, none);
   engine.setImage(gen3g::MoreListPopupHighlightImage, green);
   EXPECT_EQ(popupMenu(0), 0);
@@ -111,9 +108,9 @@ TEST_F(Vistrel3GScreensTest, LinesOfANoteAreCentred) {
     engine.DrawNotesWindow();
     const QRect inked = boundsOf(surface.image(), kRed);
     constexpr int kTops[] = {0, 76, 70, 63, 57, 50, 44, 44, 44};
-    constexpr int kCap = 10;  // Rows of a capital; its first lies two below the text's top.
+    constexpr int kCap = 9;  // Rows of a capital; its first lies two below the text's top.
     EXPECT_EQ(inked.top(), lines == 0 ? 0 : kTops[lines] + 2) << lines;
-    EXPECT_EQ(inked.height(), lines == 0 ? 0 : 13 * (std::min(lines, 6) - 1) + kCap - 1) << lines;
+    EXPECT_EQ(inked.height(), lines == 0 ? 0 : 13 * (std::min(lines, 6) - 1) + kCap) << lines;
   }
 }
 
@@ -148,7 +145,6 @@ TEST_F(Vistrel3GScreensTest, TheWeekIsThatOfTheComingSaturday) {
 /// The font lives across operations, so each screen must set what it needs.
 TEST_F(Vistrel3GScreensTest, NoScreenDependsOnTheOneBefore) {
   const auto painted = [this](clsVistrel3G& on, const Screen<clsVistrel3G>& screen) {
-    surface.Cls();
     on.setSurface(surface);
     screen.paint(on);
     return surface.image();

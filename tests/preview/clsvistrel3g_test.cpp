@@ -12,7 +12,6 @@ namespace quillane {
 
 namespace {
 
-constexpr QRgb kMargin = 0xFFD4D0C8;
 constexpr QRgb kGround = 0xFFC0DFFF;
 constexpr QRgb kDesktopGround = 0xFFBFD3E8;
 constexpr QRgb kImage = 0xFF00AA00;

@@ -9,10 +9,7 @@ namespace quillane {
 
 namespace {
 
-constexpr QRgb kMargin = 0xFFD4D0C8;
 constexpr QRgb kGround = 0xFFFFFFFF;
-constexpr QRgb kRed = 0xFFFF0000;
-constexpr QRgb kGreen = 0xFF00FF00;
 const QRect kScreen(5, 5, 101, 80);
 
 using Draw = void (clsVistrel::*)();
@@ -31,58 +28,40 @@ class VistrelScreensTest : public EngineTest<clsVistrel> {
 };
 
 TEST_F(VistrelScreensTest, RowsOfTheMenus) {
-  // The list, the title image and where the highlights of the last and the first row lie.
-  const std::tuple<Draw, QString clsVistrel::*, gen2::Image, bool, int, QRect, QRect> table[] = {
+  struct Rows {
+    int count, firstTop, firstHeight, lastTop;
+  };
+  // Height of a highlight, and the rows without and with a title image.
+  const std::tuple<Draw, QString clsVistrel::*, gen2::Image, int, Rows, Rows> table[] = {
       {&clsVistrel::DrawMenuSmall,
        &clsVistrel::MenuSmallText,
        gen2::TitleImageSmall,
-       false,
-       7,
-       {5, 74, 101, 11},
-       {5, 15, 101, 10}},  // The bar covers the first one's top.
-      {&clsVistrel::DrawMenuSmall,
-       &clsVistrel::MenuSmallText,
-       gen2::TitleImageSmall,
-       true,
-       6,
-       {5, 74, 101, 11},
-       {5, 24, 101, 11}},
+       11,
+       {7, 15, 10, 74},
+       {6, 24, 11, 74}},  // The bar covers the first one's top.
       {&clsVistrel::DrawMenuMedium,
        &clsVistrel::MenuMediumText,
        gen2::TitleImageMedium,
-       false,
-       5,
-       {5, 71, 101, 14},
-       {5, 19, 101, 14}},
-      {&clsVistrel::DrawMenuMedium,
-       &clsVistrel::MenuMediumText,
-       gen2::TitleImageMedium,
-       true,
-       4,
-       {5, 71, 101, 14},
-       {5, 32, 101, 14}},
+       14,
+       {5, 19, 14, 71},
+       {4, 32, 14, 71}},
       {&clsVistrel::DrawMenuLarge,
        &clsVistrel::MenuLargeText,
        gen2::TitleImageLarge,
-       false,
-       4,
-       {5, 67, 101, 15},
-       {5, 22, 101, 15}},
-      {&clsVistrel::DrawMenuLarge,
-       &clsVistrel::MenuLargeText,
-       gen2::TitleImageLarge,
-       true,
-       4,
-       {5, 67, 101, 15},
-       {5, 22, 101, 15}}};
+       15,
+       {4, 22, 15, 67},
+       {4, 22, 15, 67}}};
   engine.setColor(gen2::HighlightColor, "FF0000");
-  for (const auto& [draw, list, slot, image, rows, last, first] : table) {
-    engine.setImage(slot, image ? gif({101, 8}) : QString());
-    engine.*list = "H-1" + QString("|--2").repeated(rows - 1);
-    EXPECT_EQ(boundsOf(drawn(draw), kRed), first) << rows;
-    engine.*list = QString("--1|").repeated(rows - 1) + "H-2|H-3";
-    EXPECT_EQ(boundsOf(drawn(draw), kRed), last) << rows;
-  }
+  for (const auto& [draw, list, slot, height, plain, belowImage] : table)
+    for (const bool image : {false, true}) {
+      const Rows& rows = image ? belowImage : plain;
+      engine.setImage(slot, image ? gif({101, 8}) : QString());
+      engine.*list = "H-1" + QString("|--2").repeated(rows.count - 1);
+      EXPECT_EQ(boundsOf(drawn(draw), kRed), QRect(5, rows.firstTop, 101, rows.firstHeight))
+          << slot;
+      engine.*list = QString("--1|").repeated(rows.count - 1) + "H-2|H-3";
+      EXPECT_EQ(boundsOf(drawn(draw), kRed), QRect(5, rows.lastTop, 101, height)) << slot;
+    }
 }
 
 TEST_F(VistrelScreensTest, FlagsChooseTheColourOfARow) {
@@ -180,16 +159,19 @@ TEST_F(VistrelScreensTest, TheWindowKeepsThePaddingAndTheTitleBarDoesNot) {
   EXPECT_NE(faultNumberOf([&] { engine.DrawWindow("nocolr"); }), 0);
 }
 
-TEST_F(VistrelScreensTest, TheThirdSaturdayIsMarkedWhateverTheDay) {
+TEST_F(VistrelScreensTest, TheSaturdayOfTheThirdRowIsMarkedWhateverTheDay) {
   engine.setColor(gen2::CalendarWeekendHighlightColor, "FFFFFF");
   engine.setColor(gen2::CalendarWeekendHighlightTextColor, "00FF00");
   engine.setColor(gen2::CalendarWeekendTextColor, "FF0000");
-  const QImage first = drawn(&clsVistrel::DrawCalendar);
-  EXPECT_TRUE(QRect(76, 41, 15, 12).contains(boundsOf(first, kGreen)));
-  EXPECT_TRUE(boundsOf(first, kRed, {75, 40, 17, 13}).isNull());
-  for (int day = 1; day <= 30; ++day) {
-    world.time.setDate({2003, 6, day});
-    EXPECT_EQ(drawn(&clsVistrel::DrawCalendar), first) << day;
+  for (const QDate& month : {QDate(2003, 6, 1), QDate(2003, 9, 1)}) {  // From a Sunday, a Monday.
+    world.time.setDate(month);
+    const QImage first = drawn(&clsVistrel::DrawCalendar);
+    EXPECT_TRUE(QRect(76, 41, 15, 12).contains(boundsOf(first, kGreen)));
+    EXPECT_TRUE(boundsOf(first, kRed, {76, 41, 15, 12}).isNull());
+    for (int day = 1; day <= 30; ++day) {
+      world.time.setDate({month.year(), month.month(), day});
+      EXPECT_EQ(drawn(&clsVistrel::DrawCalendar), first) << day;
+    }
   }
 }
 

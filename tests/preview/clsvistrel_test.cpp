@@ -11,7 +11,6 @@ namespace quillane {
 
 namespace {
 
-constexpr QRgb kMargin = 0xFFD4D0C8;
 constexpr QRgb kFill = 0xFF102030;
 constexpr QRgb kDesktopFill = 0xFF405060;
 const QRect kScreen(5, 5, 101, 80);

@@ -16,6 +16,10 @@
 
 namespace quillane {
 
+constexpr QRgb kMargin = 0xFFD4D0C8;  ///< The surface's own back colour.
+constexpr QRgb kRed = 0xFFFF0000;
+constexpr QRgb kGreen = 0xFF00FF00;
+
 /// Where a part of a picture has pixels of a colour; null for nowhere.
 inline QRect boundsOf(const QImage& image, QRgb color, const QRect& part) {
   QRect bounds;
@@ -32,11 +36,8 @@ inline QRect boundsOf(const QImage& image, QRgb color) {
 /// A picture as rows of letters: "." for the surface's own back colour, "#" black, "r", "g", "b"
 /// the pure colours and "?" any other.
 inline std::vector<std::string> lettersOf(const QImage& image) {
-  const std::map<QRgb, char> letters{{0xFFD4D0C8, '.'},
-                                     {0xFF000000, '#'},
-                                     {0xFFFF0000, 'r'},
-                                     {0xFF00FF00, 'g'},
-                                     {0xFF0000FF, 'b'}};
+  const std::map<QRgb, char> letters{
+      {kMargin, '.'}, {0xFF000000, '#'}, {kRed, 'r'}, {kGreen, 'g'}, {0xFF0000FF, 'b'}};
   std::vector<std::string> rows;
   for (int y = 0; y < image.height(); ++y) {
     std::string& row = rows.emplace_back();

@@ -76,18 +76,53 @@ TEST_F(Render, SampleThemesLookLikeTheirReferences) {
   ASSERT_GE(themes.entryList({"*.thm"}).size(), 6);
   for (const QFileInfo& theme : themes.entryInfoList({"*.thm"})) {
     const QImage sheet(REFERENCE_FOLDER "/" + theme.completeBaseName() + "/sheet.png");
-    runTool({"render", theme.filePath(), "--out", path("out"), "--border", "default", "--now",
-             "2003-06-14 09:41"});
-    const bool two = sheet.width() == 7 * Surface::kSize2.width();
+    EXPECT_EQ(runTool({"render", theme.filePath(), "--out", path("out"), "--border", "default",
+                       "--now", "2003-06-14 09:41"}),
+              kQuiet);
+    constexpr int kColumns = 7;  // As on the reference sheets.
+    const bool two = sheet.width() == kColumns * Surface::kSize2.width();
     const QStringList ids = two ? idsOf(screensOfGeneration2()) : idsOf(screensOf3G());
     for (int place = 0; place < ids.size(); ++place) {
       if (ids[place].startsWith("softkeys")) continue;  // Tick boxes at random.
       const QImage seen = image("out/" + ids[place] + ".png");
-      const QPoint corner(place % 7 * seen.width(), place / 7 * seen.height());
+      const QPoint corner(place % kColumns * seen.width(), place / kColumns * seen.height());
       EXPECT_EQ(seen.convertToFormat(QImage::Format_RGB32),
                 sheet.copy(QRect(corner, seen.size())).convertToFormat(QImage::Format_RGB32))
           << theme.fileName().toStdString() << ' ' << ids[place].toStdString();
     }
+  }
+}
+
+/// Which screens an option changes.
+enum Changes { Nothing = 0, Two = 1, ThreeG = 2, Both = 3 };
+
+TEST_F(Render, OptionsChangeTheirScreens) {
+  const QString language = write("my.lng", "[Desktop]\r\nTitles=A|B|C|D|E|F|G|H|I|J|K|L\r\n");
+  const std::tuple<const char*, QString, QStringList, Changes> rows[] = {
+      {"now", "standby", {"--now", "2003-06-14 09:42"}, Both},
+      {"day", "standby", {"--now", "2003-06-15 09:41"}, ThreeG},
+      {"signal", "standby", {"--signal", "0"}, Both},
+      {"signal out of range is 5", "standby", {"--signal", "-1"}, Nothing},
+      {"signal beyond the settings", "standby", {"--signal", "99999999999999999999"}, Nothing},
+      {"battery", "standby", {"--battery", "0"}, Both},
+      {"battery out of range is 10", "standby", {"--battery", "11"}, Nothing},
+      {"desktop icon", "desktop", {"--desktop-icon", "2"}, Both},
+      {"desktop icon of 3G only", "desktop", {"--desktop-icon", "12"}, ThreeG},
+      {"operator", "standby", {"--operator", "Moon"}, Both},
+      {"empty operator", "standby", {"--operator", QString()}, Both},
+      {"time format", "standby", {"--time-format", "hh:mmam/pm"}, Both},
+      {"date format", "standby", {"--date-format", "yyyy"}, ThreeG},
+      {"GPRS off", "standby", {"--gprs", "off"}, Both},
+      {"GPRS out of range", "standby", {"--gprs", "0"}, Both},
+      {"GPRS range above 1 is 1", "standby", {"--gprs", "2"}, Nothing},
+      {"GPRS in range", "standby", {"--gprs", "1"}, Nothing},
+      {"infrared", "standby", {"--ir"}, Two},
+      {"language", "desktop", {"--language", language}, Both},
+      {"no images, none there", "standby", {"--no-images"}, Nothing}};
+  for (const auto& [name, id, words, changes] : rows) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(screen(two_, id, words) != screen(two_, id, {}), (changes & Two) != 0);
+    EXPECT_EQ(screen(threeG_, id, words) != screen(threeG_, id, {}), (changes & ThreeG) != 0);
   }
 }
 

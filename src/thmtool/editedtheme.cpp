@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "thmtool/editedtheme.h"
+
+#include "shell/imagerules.h"
+#include "theme/codepage.h"
+#include "theme/contrast.h"
+#include "theme/save.h"
+#include "theme/writer.h"
+#include "thmtool/folders.h"
+
+#include <QFileInfo>
+#include <QHash>
+
+#include <algorithm>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Place of an element among the rows of a generation. Throws `UsageError`.
+template <typename Rows>
+int placeOf(const Assignment& wanted, const ThemeSchema& schema, const Rows& rows,
+            const QString& kind) {
+  const int place = rowOfElement(rows, wanted.element);
+  if (place >= 0) return place;
+  const QString generation = schema.generation == Generation::Two ? u"Generation 2"_s : u"3G"_s;
+  throw UsageError(u"%1 has no %2 \"%3\"."_s.arg(generation, kind, wanted.element));
+}
+
+void checkPicture(const ThemeSchema& schema, const ImageElement& slot, const QString& path) {
+  const QSize size = themePictureSize(schema, path);
+  if (takesSize(slot, size)) return;
+  // The lines of the window's message as one.
+  throw Fault(FaultNumber::BadPicture,
+              imageDimensionsText(slot, path, size).replace("\r\n"_L1, " "_L1).simplified());
+}
+
+/// Whether a reader finds an image by its name in the XML.
+bool canBeNamed(const QString& name) {
+  constexpr QLatin1String kMisread("\"\\*?");
+  return name != "xxx.gif"_L1 && fromCodePage(toCodePage(name)) == name &&
+         std::none_of(name.begin(), name.end(),
+                      [&](QChar sign) { return kMisread.contains(sign); });
+}
+
+/// Images that the archive cannot tell apart or that the XML cannot name.
+QStringList imageTroubles(const ThemeValues& values) {
+  QStringList troubles;
+  QHash<QString, QFileInfo> known;
+  for (int slot = 0; slot < static_cast<int>(values.schema().images.size()); ++slot) {
+    if (values.image(slot).isEmpty()) continue;
+    const QFileInfo file(values.image(slot));
+    const QString name = file.fileName().toLower();
+    if (!canBeNamed(name))
+      troubles += u"The image \"%1\" will not be seen: no theme can hold such a name."_s.arg(name);
+    else if (known.contains(name) && known.value(name) != file)
+      troubles += u"Different images are named \"%1\"; one will be seen for all."_s.arg(name);
+    known.insert(name, file);
+  }
+  troubles.removeDuplicates();
+  return troubles;
+}
+
+void warn(const ThemeValues& values, const Streams& streams) {
+  QStringList close;
+  for (const int index : closeColors(values))
+    close += values.schema().colors[static_cast<std::size_t>(index)].element;
+  if (!close.isEmpty())
+    streams.complain(u"Colours that are too close to tell apart: %1."_s.arg(close.join(", "_L1)));
+  for (const QString& trouble : imageTroubles(values))
+    streams.complain(trouble);
+}
+
+/// The theme that decides on the index. An image that was taken out shall keep nobody from saving.
+const ThemeValues* shownFor(const EditedTheme& theme, const ThemeValues* shown) {
+  const bool isSmallEmpty = theme.values.schema().generation == Generation::Two &&
+                            theme.values.image(gen2::TitleImageSmall).isEmpty();
+  return isSmallEmpty ? nullptr : shown;
+}
+
+}  // namespace
+
+void applyEdits(EditedTheme& theme, const EditOptions& options) {
+  const ThemeSchema& schema = theme.values.schema();
+  for (const Assignment& color : options.colors)
+    theme.values.setColor(placeOf(color, schema, schema.colors, u"colour"_s), color.text);
+  for (const Assignment& image : options.images)
+    theme.values.setImage(
+        placeOf(image, schema, schema.images, u"image"_s),
+        image.text.isEmpty() ? QString() : QFileInfo(image.text).absoluteFilePath());
+  for (const Assignment& image : options.images) {
+    const auto slot = static_cast<std::size_t>(rowOfElement(schema.images, image.element));
+    if (!image.text.isEmpty()) checkPicture(schema, schema.images[slot], image.text);
+  }
+  for (const Assignment& tag : options.tags)
+    theme.tags.at(static_cast<std::size_t>(rowOfElement(kThemeTags, tag.element))) = tag.text;
+}
+
+int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString& themePath,
+               const EditOptions& options, const Streams& streams) {
+  warn(theme.values, streams);
+  const QTemporaryDir folder = makeWorkFolder();
+  const ThemeTagTexts tags = options.writeTags ? theme.tags : ThemeTagTexts();
+  const bool saved = saveTheme({.themePath = themePath,
+                                .edited = theme.values,
+                                .shown = shownFor(theme, shown),
+                                .xml = generateXml(theme.values, tags),
+                                .includeIndex = options.includeIndex,
+                                .compress = options.compress,
+                                .workFolder = folder.path()},
+                               [&](const Fault& fault) { streams.complain(fault.description()); });
+  return saved ? AllWell : NotDone;
+}
+
+}  // namespace quillane
