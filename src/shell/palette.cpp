@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kLargestFile = 1024 * 1024;
+constexpr qint64 kLargestFile = qint64{1024} * 1024;
 constexpr qint64 kEntryBytes = 4;
 constexpr quint16 kRiffVersion = 0x0300;
 

@@ -130,6 +130,8 @@ void frmClrPicker::makeMenu() {
 
 void frmClrPicker::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
+  // One of the desktop's own only brings the window back, for instance from an icon.
+  if (event->spontaneous()) return;
   // Hiding the window has moved the focus on from where it was.
   ui_->ctrColorPalette->setFocus();
   Form_Activate();
