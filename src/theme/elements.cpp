@@ -22,9 +22,9 @@ constexpr ImageElement kImages2[] = {
    state,                                                                                         \
    loadRank,                                                                                      \
    gen2::readAfter,                                                                               \
+   SizeRule::rule,                                                                                \
    QLatin1String(words),                                                                          \
    QSize(width, height),                                                                          \
-   SizeRule::rule,                                                                                \
    QLatin1String(word)},
 #include "theme/generation2.def"
 };
@@ -45,9 +45,9 @@ constexpr ImageElement kImages3G[] = {
    state,                                                                                         \
    loadRank,                                                                                      \
    gen3g::readAfter,                                                                              \
+   SizeRule::rule,                                                                                \
    QLatin1String(words),                                                                          \
    QSize(width, height),                                                                          \
-   SizeRule::rule,                                                                                \
    QLatin1String(word)},
 #include "theme/generation3g.def"
 };

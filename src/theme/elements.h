@@ -59,9 +59,9 @@ struct ImageElement {
   int state;                   ///< Index in `ImageState`, 0 to 12.
   int loadRank;                ///< Place among the images when a theme is read.
   int readAfter;               ///< Index of the colour after which it is read.
+  SizeRule rule;               ///< How `size` binds a picture.
   QLatin1String missingWords;  ///< Begin of the message for a file that is not there.
-  QSize size;                  ///< In pixels, as `rule` has it.
-  SizeRule rule;
+  QSize size;                  ///< In pixels.
   QLatin1String word;  ///< What messages about a chosen picture call the slot: "title small".
 };
 
