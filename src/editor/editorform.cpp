@@ -115,6 +115,9 @@ void EditorForm::showCaption() {
 void EditorForm::btnTabs_Click(int tab) {
   CurrentTab = tab;
   btnTabs_[tab]->setChecked(true);
+  // The Tab key goes from the tab on show straight to what is on it.
+  for (QAbstractButton* button : btnTabs_)
+    button->setFocusPolicy(button == btnTabs_[tab] ? Qt::StrongFocus : Qt::ClickFocus);
   ui_->picTabs->setCurrentWidget(pages_[tab]);
   QGridLayout* layout = ui_->panes;
   for (PictureBox* pane : panes_) {

@@ -11,18 +11,29 @@
 #include "shell/state.h"
 #include "ui_frmnew.h"
 
+#include <QKeyEvent>
+#include <QPainter>
+
 namespace quillane {
 
 namespace {
 
-/// The icon of a button: a screen of an engine that shows no theme.
+constexpr QSize kIcon(128, 160);
+constexpr int kMargin = 5;
+
+/// The icon of a button: a screen of an engine that shows no theme, in the icon's middle.
 template <class Engine>
 QIcon iconOf(Engine& engine, QSize size, void (Engine::*draw)()) {
   Surface surface(size);
   engine.setSurface(surface);
   skipOnFault([&] { (engine.*draw)(); });
-  return QPixmap::fromImage(
-      surface.image().copy(QRect(QPoint(), size).marginsRemoved({5, 5, 5, 6})));
+  const QImage screen = surface.image().copy(kMargin, kMargin, size.width() - 2 * kMargin,
+                                             size.height() - 2 * kMargin - 1);
+  QPixmap icon(kIcon);
+  icon.fill(Qt::transparent);
+  QPainter(&icon).drawImage((kIcon.width() - screen.width()) / 2,
+                            (kIcon.height() - screen.height()) / 2, screen);
+  return icon;
 }
 
 }  // namespace
@@ -52,5 +63,14 @@ frmNew::frmNew(QWidget* owner, const EditorDesk& desk)
 }
 
 frmNew::~frmNew() = default;
+
+// A tool button knows Space alone.
+void frmNew::keyPressEvent(QKeyEvent* event) {
+  auto* button = qobject_cast<QToolButton*>(focusWidget());
+  if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+    button->click();
+  else
+    QDialog::keyPressEvent(event);
+}
 
 }  // namespace quillane

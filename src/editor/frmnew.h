@@ -26,6 +26,9 @@ class frmNew : public QDialog {
   /// The button that was clicked, from 0, or -1.
   int choice() const { return choice_; }
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   std::unique_ptr<Ui::frmNew> ui_;
   int choice_ = -1;
