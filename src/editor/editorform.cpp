@@ -171,9 +171,11 @@ void EditorForm::CheckColorContrast() {
     controls.warning->setPixmap(formPixmap(kWarningPicture));
     btnTabs_[controls.tab]->setIcon(formIcon(kWarningPicture));
   }
-  for (QWidget* button : {ui_->btnSave_0, ui_->btnSave_1}) {
+  for (const auto& [button, tip] :
+       {std::pair{ui_->btnSave_0, u"Save the theme"_s},
+        std::pair{ui_->btnSave_1, u"Save the theme under another name"_s}}) {
     button->setEnabled(close.isEmpty());
-    button->setToolTip(close.isEmpty() ? u"Save the theme"_s
+    button->setToolTip(close.isEmpty() ? tip
                                        : u"Colors too close to be read must be changed first"_s);
   }
 }
