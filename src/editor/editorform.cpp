@@ -53,7 +53,11 @@ EditorForm::EditorForm(QWidget* owner, const EditorDesk& desk, const EditorKind&
   qApp->installEventFilter(this);
 }
 
-EditorForm::~EditorForm() = default;
+// The focus leaves an image button that is destroyed, when this form is none any more.
+EditorForm::~EditorForm() {
+  for (ImageButton* button : btnImage_)
+    button->disconnect(this);
+}
 
 void EditorForm::Form_Load(bool openExisting) {
   for (int tab = 0; tab < tabs_.size(); ++tab)
