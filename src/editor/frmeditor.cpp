@@ -53,7 +53,7 @@ void frmEditor::imageFilled(int slot, bool autoSelected) {
 }
 
 void frmEditor::shareImage(int from, int to, bool evenFilled) {
-  if (evenFilled || slotPath(to).isEmpty()) setSlotPath(to, slotPath(from));
+  if (evenFilled || vistrel_.image(to).isEmpty()) setSlotPath(to, slotPath(from));
 }
 
 }  // namespace quillane
