@@ -120,7 +120,8 @@ class EditorTest : public TempFolder {
   }
   /// Clicks a swatch and answers its dialog; an empty colour cancels it.
   void pick(const QString& stem, const QString& rgb) {
-    const QString before = text("txt" + stem + "Clr");
+    const ColorValue color = control<ColorSwatch>("lbl" + stem + "Clr").color();
+    const QString before = ColorToHtml(QString::number(color));
     if (generation == Generation::ThreeG)
       dialogs.expectColor(before, rgb);
     else
@@ -163,15 +164,16 @@ class EditorTest : public TempFolder {
   PreviewEngine& engine() { return engineOf(*state.EditorEngine2, *state.EditorEngine3G); }
   PreviewEngine& shownEngine() { return engineOf(*state.PreviewEngine2, *state.PreviewEngine3G); }
 
-  /// Keeps the title and the icon of the last message beside its text.
+  /// Keeps the last message.
   struct TitledDialogs : ScriptedDialogs {
-    QString title;
+    QString title, text;
     MessageIcon icon{};
     void message(QWidget* owner, MessageIcon its, const QString& head,
-                 const QString& text) override {
+                 const QString& words) override {
       title = head;
+      text = words;
       icon = its;
-      ScriptedDialogs::message(owner, its, head, text);
+      ScriptedDialogs::message(owner, its, head, words);
     }
   };
 
