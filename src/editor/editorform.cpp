@@ -91,6 +91,7 @@ void EditorForm::loadExisting() {
 
 void EditorForm::loadNew() {
   EditorThemeFile = kNewTheme;
+  lock(*ui_->txtThemeModifiedBy, true);
   ui_->btnRevert->setEnabled(false);
   engine_.DefaultColors();
   ColorsToControls();
