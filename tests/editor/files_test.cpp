@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editorfixture.h"
 #include "support/hindrance.h"
+#include "theme/tags.h"
 #include "theme/writer.h"
 
 #include <QClipboard>
