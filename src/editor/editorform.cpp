@@ -53,7 +53,11 @@ EditorForm::EditorForm(QWidget* owner, const EditorDesk& desk, const EditorKind&
   qApp->installEventFilter(this);
 }
 
-EditorForm::~EditorForm() = default;
+// The focus leaves an image button that is destroyed, when this form is none any more.
+EditorForm::~EditorForm() {
+  for (ImageButton* button : btnImage_)
+    button->disconnect(this);
+}
 
 void EditorForm::Form_Load(bool openExisting) {
   for (int tab = 0; tab < tabs_.size(); ++tab)
@@ -87,6 +91,7 @@ void EditorForm::loadExisting() {
 
 void EditorForm::loadNew() {
   EditorThemeFile = kNewTheme;
+  lock(*ui_->txtThemeModifiedBy, true);
   ui_->btnRevert->setEnabled(false);
   engine_.DefaultColors();
   ColorsToControls();
@@ -174,9 +179,11 @@ void EditorForm::CheckColorContrast() {
     controls.warning->setPixmap(formPixmap(kWarningPicture));
     btnTabs_[controls.tab]->setIcon(formIcon(kWarningPicture));
   }
-  for (QWidget* button : {ui_->btnSave_0, ui_->btnSave_1}) {
+  for (const auto& [button, tip] :
+       {std::pair{ui_->btnSave_0, u"Save the theme"_s},
+        std::pair{ui_->btnSave_1, u"Save the theme under another name"_s}}) {
     button->setEnabled(close.isEmpty());
-    button->setToolTip(close.isEmpty() ? u"Save the theme"_s
+    button->setToolTip(close.isEmpty() ? tip
                                        : u"Colors too close to be read must be changed first"_s);
   }
 }

@@ -24,10 +24,10 @@ frmEditor::frmEditor(QWidget* owner, const EditorDesk& desk, bool openExisting)
       vistrel_(*desk.state.EditorEngine2) {
   useSwitch(*ui_->btnView, u"picStandby"_s, [this] { btnView_Click(); });
   Form_Load(openExisting);
-  ui_->btnView->setChecked(vistrel_.StandbyType == 1);
 }
 
 void frmEditor::paintPanes(const FaultReporter& report) {
+  ui_->btnView->setChecked(vistrel_.StandbyType == 1);
   for (const Screen<clsVistrel>& screen : screensOfGeneration2()) {
     stepPhone(screen.id, vistrel_, kHighestDesktopIcon, desk_.state, desk_.world);
     paintScreen(screen, vistrel_, *pane(screen.pane), report);
@@ -44,10 +44,7 @@ void frmEditor::btnView_Click() {
 }
 
 void frmEditor::imageFilled(int slot, bool autoSelected) {
-  if (slot == gen2::BackgroundImage) {
-    vistrel_.StandbyType = 1;
-    ui_->btnView->setChecked(true);
-  }
+  if (slot == gen2::BackgroundImage) vistrel_.StandbyType = 1;
   if (desk_.state.SmartLAImage) return;
   if (slot == gen2::TitleImageLarge)
     shareImage(gen2::TitleImageLarge, gen2::TitleImageAsian, autoSelected);
@@ -56,7 +53,7 @@ void frmEditor::imageFilled(int slot, bool autoSelected) {
 }
 
 void frmEditor::shareImage(int from, int to, bool evenFilled) {
-  if (evenFilled || slotPath(to).isEmpty()) setSlotPath(to, slotPath(from));
+  if (evenFilled || vistrel_.image(to).isEmpty()) setSlotPath(to, slotPath(from));
 }
 
 }  // namespace quillane
