@@ -100,16 +100,16 @@ class EditorTest : public TempFolder {
   QString source() { return control<QPlainTextEdit>("txtXML").toPlainText(); }
   QString caption() { return form->windowTitle(); }
   ImageButton& slot(int index) { return control<ImageButton>(QString("btnImage_%1").arg(index)); }
-  /// The files of all slots as their buttons have them, bare names, and a "!" where the engine has
-  /// another file or the icon does not fit.
+  /// The slots with a file as in "0back 3top", and a "!" where button and engine disagree.
   QString slotFiles() {
-    QStringList names;
+    QStringList files;
     for (int at = 0; at < static_cast<int>(engine().values().schema().images.size()); ++at) {
       const QString file = slot(at).path();
       const bool fits = engine().image(at) == file && slot(at).icon().isNull() == file.isEmpty();
-      names << QFileInfo(file).fileName() + (fits ? "" : "!");
+      if (!fits || !file.isEmpty())
+        files << QString::number(at) + QFileInfo(file).baseName() + (fits ? "" : "!");
     }
-    return names.join(' ').trimmed();
+    return files.join(' ');
   }
 
   QList<ColorSlot> colorSlots() const {

@@ -39,6 +39,8 @@ TEST_F(EditorFiles, NewThemeIsSaved) {
     control<QLineEdit>("txtThemeName").setText(QString::fromUtf8("Caf\u00E9"));
     pick("TimeOut", "103A5E");
     const bool is2 = which == Generation::Two;
+    state.IncludeIndexFile = is2;
+    state.CompressXMLCode = !is2;
     choose(3, is2 ? "Select title medium image" : "Select desktop image",
            gif("Pic.gif", is2 ? QSize(101, 27) : QSize(128, 127)));
     clickFor("btnSave_0", "Save theme file", {});
@@ -55,6 +57,8 @@ TEST_F(EditorFiles, NewThemeIsSaved) {
     LoadedTheme theme = saved("home/My.thm");
     EXPECT_EQ(contentOf(theme.values), contentOf(engine().values()).replaceInStrings("Pic", "pic"));
     EXPECT_EQ(readThemeTags(theme.xml, faults.reporter())[0], QString::fromUtf8("Caf\u00E9"));
+    EXPECT_EQ(listOf("again").contains("index.txt"), is2);
+    EXPECT_EQ(read("again/my.xml").contains('\n'), is2);
     for (const auto& [button, isOn] : {std::pair{"btnRevert", false},
                                        {"btnImport", true},
                                        {"btnReset", true},
@@ -79,8 +83,8 @@ TEST_F(EditorFiles, NewThemeIsSaved) {
 TEST_F(EditorFiles, OpenedThemeIsSavedOverTheOneOnShow) {
   for (const Generation which : kBoth) {
     const bool is2 = which == Generation::Two;
-    const QSize size = is2 ? QSize(101, 80) : QSize(128, 127);
-    const QByteArray image = is2 ? "Desktop_background_image" : "Wallpaper_image";
+    const QSize size = is2 ? QSize(101, 20) : QSize(128, 127);
+    const QByteArray image = is2 ? "Title_image_small" : "Wallpaper_image";
     showTheme(which, "Own.thm", '<' + image + " Source=\"back.gif\"/><Text Color=\"0x123456\"/>",
               {{"back.gif", size}});
     const QStringList shown = contentOf(shownEngine().values());
@@ -106,6 +110,7 @@ TEST_F(EditorFiles, OpenedThemeIsSavedOverTheOneOnShow) {
     EXPECT_EQ(read("themes/Own.thm"), old);
     click("btnSave_0");
     EXPECT_EQ(contentOf(saved("themes/Own.thm").values), contentOf(engine().values()));
+    EXPECT_TRUE(read("again/index.txt").contains("back.gif "));
     EXPECT_EQ(listOf("themes"), QStringList("Own.thm"));
     EXPECT_EQ(contentOf(shownEngine().values()), shown);
     EXPECT_NE(contentOf(engine().values()), shown);
@@ -115,7 +120,7 @@ TEST_F(EditorFiles, OpenedThemeIsSavedOverTheOneOnShow) {
     EXPECT_EQ(contentOf(engine().values()), shown);
     EXPECT_EQ(source(), lines(state.ThemeXml));
     EXPECT_EQ(text("txtTextClr"), "123456");
-    EXPECT_EQ(slotFiles().trimmed(), "back.gif");
+    EXPECT_EQ(slotFiles(), is2 ? "2back" : "1back");
   }
 }
 
@@ -227,7 +232,7 @@ TEST_F(EditorFiles, SourceComesFromAFileAndFromTheClipboard) {
         EXPECT_EQ(dialogs.icon, MessageIcon::Warning);
       }
       EXPECT_EQ(text("txtTextClr"), QString(row.taken ? "7F0102" : "000000")) << row.source;
-      EXPECT_EQ(slotFiles(), QString(row.taken ? "a.gif!" : "a.gif"));
+      EXPECT_EQ(slotFiles(), QString("%1a").arg(desktop) + (row.taken ? "!" : ""));
       EXPECT_EQ(source().contains("7F0102"), row.taken);
       EXPECT_EQ(state.ThemeXml, QString());
       // What a source leaves out has its default in generation 2 and nothing in 3G.
