@@ -63,10 +63,12 @@ void EditorForm::Form_Load(bool openExisting) {
   for (int tab = 0; tab < tabs_.size(); ++tab)
     if (tabs_[tab].kind == TabKind::Information && desk_.state.DisableETT) btnTabs_[tab]->hide();
   btnTabs_Click(0);
-  if (openExisting)
-    loadExisting();
-  else
-    loadNew();
+  run(u"Form_Load"_s, [this, openExisting] {
+    if (openExisting)
+      loadExisting();
+    else
+      loadNew();
+  });
   showCaption();
   clearImageInformation();
   // The wizard behind it is still to come.
@@ -103,7 +105,7 @@ void EditorForm::loadNew() {
 void EditorForm::readTags() {
   const PublicState& state = desk_.state;
   const auto [name, creator, modifiedBy, created] =
-      readThemeTags(state.ThemeXml, faults_.reporter());
+      readThemeTags(state.ThemeXml, parseFaults_.reporter());
   ui_->txtThemeName->setText(name);
   ui_->txtThemeAuthor->setText(creator);
   ui_->txtThemeModifiedBy->setText(
@@ -165,10 +167,8 @@ void EditorForm::ColorsToControls() {
     showColor(controls);
 }
 
-void EditorForm::DrawPreviews() {
-  paintPanes(faults_.reporter());
-  faults_.show(desk_.dialogs, this,
-               u"in Quillane.%1.DrawPreviews "_s.arg(QLatin1String(kind_.name)));
+void EditorForm::DrawPreviews(const QStringList& only) {
+  paintPanes(only, faults_.reporter());
 }
 
 void EditorForm::CheckColorContrast() {
@@ -177,7 +177,9 @@ void EditorForm::CheckColorContrast() {
   for (const int color : close) {
     const SlotControls& controls = controlsOf(color);
     controls.warning->setPixmap(formPixmap(kWarningPicture));
+    controls.swatch->setAccessibleDescription(controls.warning->toolTip());
     btnTabs_[controls.tab]->setIcon(formIcon(kWarningPicture));
+    btnTabs_[controls.tab]->setToolTip(controls.warning->toolTip());
   }
   for (const auto& [button, tip] :
        {std::pair{ui_->btnSave_0, u"Save the theme"_s},
@@ -189,10 +191,14 @@ void EditorForm::CheckColorContrast() {
 }
 
 void EditorForm::clearWarnings() {
-  for (const SlotControls& controls : slots_)
+  for (const SlotControls& controls : slots_) {
     controls.warning->setPixmap({});
-  for (QAbstractButton* button : btnTabs_)
-    button->setIcon({});
+    controls.swatch->setAccessibleDescription({});
+  }
+  for (QAbstractButton* button : btnTabs_) {
+    button->setIcon(noIcon());
+    button->setToolTip({});
+  }
 }
 
 void EditorForm::btnRevert_Click() {

@@ -8,6 +8,7 @@
 #include "preview/screens.h"
 
 #include <QDialog>
+#include <QIcon>
 #include <QList>
 #include <QMap>
 
@@ -40,6 +41,9 @@ struct EditorKind {
   int autoSlot;      ///< The image slot that the file chosen for `btnAutoSelect` fills.
 };
 
+/// An icon that takes up its place and shows nothing.
+QIcon noIcon();
+
 /// The editor of a theme, the same program for both generations. It works on an engine of its own,
 /// so the theme in the browser stays as it is. There is no question on closing.
 class EditorForm : public QDialog {
@@ -58,15 +62,15 @@ class EditorForm : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
-  /// Paints every screen on its pane.
-  virtual void paintPanes(const FaultReporter& report) = 0;
+  /// Paints the screens of the named panes, or of all.
+  virtual void paintPanes(const QStringList& only, const FaultReporter& report) = 0;
   /// Asks for a colour, from `PickerColorIn` to `PickerColorOut`; false when it stays.
   virtual bool PickColor() = 0;
   /// A slot has got a file that a person chose, on its own or with `btnAutoSelect`.
   virtual void imageFilled(int slot, bool autoSelected);
 
-  /// Redraws all previews, with the steps of the simulated phone.
-  void DrawPreviews();
+  /// Redraws the named panes, or all, with the steps of the simulated phone.
+  void DrawPreviews(const QStringList& only = {});
   PictureBox* pane(const QString& name) const { return panes_.value(name); }
   int slotCount() const { return static_cast<int>(btnImage_.size()); }
   const QString& slotPath(int slot) const;
@@ -93,11 +97,16 @@ class EditorForm : public QDialog {
   QWidget* buildPage(int tab);
   QWidget* buildColorPage(int tab);
   void addSlot(QGridLayout& grid, int tab, const ColorSlot& slot);
+  /// Width of the longest caption of a color, in pixels.
+  int captionWidth() const;
   void buildPanes();
   void buildImageSlots();
   void connectSignals();
   /// Runs the procedure of an event; its fault becomes a message.
   void run(const QString& event, const std::function<void()>& procedure);
+  /// The same for one that may have asked something: a key that was released over its dialog is
+  /// never seen here.
+  void runCommand(const QString& event, const std::function<void()>& procedure);
 
   // Flow (editorform.cpp).
   void loadExisting();
@@ -156,7 +165,8 @@ class EditorForm : public QDialog {
   const EditorKind& kind_;
   PreviewEngine& engine_;
   const PreviewEngine& shown_;
-  HeldFaults faults_;  ///< Each text once in the life of the form.
+  HeldFaults faults_;       ///< Of painting, each text once in the life of the form.
+  HeldFaults parseFaults_;  ///< Of reading a source, the same.
   QString EditorThemeFile;
   int CurrentTab = 0;
   QList<EditorTab> tabs_;

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 
+#include <algorithm>
 #include <array>
 
 namespace quillane {
@@ -48,9 +49,22 @@ QString slotCaption(const ImageElement& slot) {
 
 }  // namespace
 
+QIcon noIcon() {
+  QPixmap clear(16, 16);
+  clear.fill(Qt::transparent);
+  return clear;
+}
+
 void EditorForm::run(const QString& event, const std::function<void()>& procedure) {
-  eventProcedure(desk_.dialogs, this, u"in Quillane.%1.%2 "_s.arg(QLatin1String(kind_.name), event),
-                 procedure);
+  const QString tag = u"in Quillane.%1.%2 "_s.arg(QLatin1String(kind_.name), event);
+  eventProcedure(desk_.dialogs, this, tag, procedure);
+  parseFaults_.show(desk_.dialogs, this, u"in Quillane.modMain.ParseXML "_s);
+  faults_.show(desk_.dialogs, this, tag);
+}
+
+void EditorForm::runCommand(const QString& event, const std::function<void()>& procedure) {
+  run(event, procedure);
+  desk_.state.CtrlDown = false;
 }
 
 void EditorForm::buildTabs() {
@@ -58,6 +72,7 @@ void EditorForm::buildTabs() {
     auto* button = new QToolButton(ui_->tabBar);
     button->setObjectName(u"btnTabs_%1"_s.arg(index));
     button->setText(tabs_[index].caption);
+    button->setIcon(noIcon());
     button->setCheckable(true);
     button->setAutoExclusive(true);
     button->setAutoRaise(true);
@@ -121,6 +136,14 @@ QWidget* EditorForm::buildColorPage(int tab) {
   return page;
 }
 
+int EditorForm::captionWidth() const {
+  int widest = 0;
+  for (const EditorTab& tab : tabs_)
+    for (const ColorSlot& slot : tab.slots_)
+      widest = std::max(widest, fontMetrics().horizontalAdvance(slot.caption));
+  return widest;
+}
+
 void EditorForm::addSlot(QGridLayout& grid, int tab, const ColorSlot& slot) {
   auto* caption = new QLabel(slot.caption);
   auto* swatch = new ColorSwatch;
@@ -129,6 +152,7 @@ void EditorForm::addSlot(QGridLayout& grid, int tab, const ColorSlot& slot) {
   swatch->setObjectName(u"lbl%1Clr"_s.arg(slot.stem));
   text->setObjectName(u"txt%1Clr"_s.arg(slot.stem));
   warning->setObjectName(u"picWarning%1"_s.arg(slot.stem));
+  caption->setMinimumWidth(captionWidth());
   const QString name = slot.group + u": "_s + slot.caption.chopped(1);
   swatch->setAccessibleName(name);
   swatch->setToolTip(
@@ -164,11 +188,8 @@ void EditorForm::buildPanes() {
       pane->setFixedSize(client + QSize(2 * kBorder, 2 * kBorder));
       panes_.insert(name, pane);
     }
-  // All tabs have room for the same panes, so that nothing moves from tab to tab.
-  const int rows = kind_.generation == Generation::Two ? 3 : 2;
-  const QSize pane = client + QSize(2 * kBorder, 2 * kBorder);
-  ui_->picPreviews->setFixedSize(kPaneColumns * pane.width() + 8,
-                                 rows * pane.height() + 8 * (rows - 1));
+  // The slots do not move from tab to tab.
+  ui_->picPreviews->setFixedWidth(kPaneColumns * (client.width() + 2 * kBorder) + 8);
 }
 
 void EditorForm::buildImageSlots() {
@@ -186,9 +207,12 @@ void EditorForm::buildImageSlots() {
     ui_->imageGrid->addWidget(label, slot % rows, column + 1);
     ui_->imageGrid->setColumnStretch(column + 1, 1);
     btnImage_ << button;
-    connect(button, &ImageButton::clicked, this,
-            [this, slot] { run(u"btnImage_Click"_s, [this, slot] { btnImage_Click(slot); }); });
-    connect(button, &ImageButton::removed, this, [this, slot] { btnImage_RightClick(slot); });
+    connect(button, &ImageButton::clicked, this, [this, slot] {
+      runCommand(u"btnImage_Click"_s, [this, slot] { btnImage_Click(slot); });
+    });
+    connect(button, &ImageButton::removed, this, [this, slot] {
+      run(u"btnImage_MouseUp"_s, [this, slot] { btnImage_RightClick(slot); });
+    });
     connect(button, &ImageButton::entered, this, [this, slot] { showImage(slot); });
     connect(button, &ImageButton::left, this, &EditorForm::clearImageInformation);
   }
@@ -197,7 +221,11 @@ void EditorForm::buildImageSlots() {
 void EditorForm::useSwitch(QToolButton& button, const QString& pane,
                            const std::function<void()>& procedure) {
   switches_.append({&button, pane});
-  connect(&button, &QToolButton::clicked, this, procedure);
+  QSizePolicy policy = button.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  button.setSizePolicy(policy);
+  connect(&button, &QToolButton::clicked, this,
+          [this, &button, procedure] { run(button.objectName() + "_Click"_L1, procedure); });
 }
 
 void EditorForm::connectSignals() {
@@ -218,7 +246,7 @@ void EditorForm::connectSignals() {
   for (const auto& [button, procedure] : rows) {
     const QString event = button->objectName().section(u'_', 0, 0) + "_Click"_L1;
     connect(button, &QAbstractButton::clicked, this,
-            [this, event, procedure = procedure] { run(event, procedure); });
+            [this, event, procedure = procedure] { runCommand(event, procedure); });
   }
   for (const ButtonPicture& row : kButtonPictures)
     findChild<QAbstractButton*>(QLatin1String(row.button))->setIcon(formIcon(row.picture));

@@ -124,7 +124,7 @@ void EditorForm::applyXmlToEngine(const QString& xml) {
   const ThemeSchema& schema = values.schema();
   for (std::size_t color = 0; color < schema.colors.size(); ++color)
     values.setColor(static_cast<int>(color),
-                    ParseXML(QString(schema.colors[color].element), xml, faults_.reporter()));
+                    ParseXML(QString(schema.colors[color].element), xml, parseFaults_.reporter()));
   for (int slot = 0; slot < slotCount(); ++slot)
     values.setImage(slot, {});
   engine_.takeTheme(values);

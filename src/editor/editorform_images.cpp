@@ -64,6 +64,8 @@ void EditorForm::btnImage_Click(int slot) {
   if (!slotPath(slot).isEmpty()) {
     dialog.InitDir = SplitPath(slotPath(slot), PathPart::Folder);
     dialog.FileName = SplitPath(slotPath(slot), PathPart::Name);
+    if (dialog.FileName.endsWith(".jpg"_L1, Qt::CaseInsensitive))
+      dialog.FilterIndex = kJpegFilterIndex;
   }
   dialog.ShowOpen(this);
   desk_.state.ImageFolder = SplitPath(dialog.FileName, PathPart::Folder);
@@ -118,7 +120,9 @@ void EditorForm::showImage(int slot) {
   ui_->lblReqDim->setText(u"%1x%2 pixels"_s.arg(size.width()).arg(size.height()));
   const QString& path = slotPath(slot);
   if (path.isEmpty()) return;
-  ui_->lblFileName->setText(u"File name: "_s + SplitPath(path, PathPart::Name));
+  const QString name = SplitPath(path, PathPart::Name);
+  ui_->lblFileName->setText(u"File name: "_s + name);
+  ui_->lblFileName->setToolTip(name);
   ui_->lblFileSize->setText(u"File size: "_s + FormatFileSize(path));
   skipOnFault([&] { ui_->imgPreview->setPixmap(QPixmap::fromImage(LoadPicture(path).image())); });
 }

@@ -26,9 +26,10 @@ frmEditor::frmEditor(QWidget* owner, const EditorDesk& desk, bool openExisting)
   Form_Load(openExisting);
 }
 
-void frmEditor::paintPanes(const FaultReporter& report) {
+void frmEditor::paintPanes(const QStringList& only, const FaultReporter& report) {
   ui_->btnView->setChecked(vistrel_.StandbyType == 1);
   for (const Screen<clsVistrel>& screen : screensOfGeneration2()) {
+    if (!only.isEmpty() && !only.contains(screen.pane)) continue;
     stepPhone(screen.id, vistrel_, kHighestDesktopIcon, desk_.state, desk_.world);
     paintScreen(screen, vistrel_, *pane(screen.pane), report);
   }
@@ -40,7 +41,7 @@ bool frmEditor::PickColor() {
 
 void frmEditor::btnView_Click() {
   vistrel_.StandbyType = vistrel_.StandbyType == 0 ? 1 : 0;
-  DrawPreviews();
+  DrawPreviews({u"picStandby"_s});
 }
 
 void frmEditor::imageFilled(int slot, bool autoSelected) {

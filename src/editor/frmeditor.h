@@ -16,7 +16,7 @@ class frmEditor : public EditorForm {
   frmEditor(QWidget* owner, const EditorDesk& desk, bool openExisting);
 
  protected:
-  void paintPanes(const FaultReporter& report) override;
+  void paintPanes(const QStringList& only, const FaultReporter& report) override;
   bool PickColor() override;
   void imageFilled(int slot, bool autoSelected) override;
 

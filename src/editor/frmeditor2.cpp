@@ -49,7 +49,9 @@ constexpr PaneRow kPanes[] = {
 frmEditor2::frmEditor2(QWidget* owner, const EditorDesk& desk, bool openExisting)
     : EditorForm(owner, desk, kKind, *desk.state.EditorEngine3G, *desk.state.PreviewEngine3G),
       vistrel_(*desk.state.EditorEngine3G) {
-  useSwitch(*ui_->btnMore, u"picPopupMenu_0"_s, [this] { DrawPreviews(); });
+  useSwitch(*ui_->btnMore, u"picPopupMenu_0"_s, [this] {
+    DrawPreviews({u"picPopupMenu_0"_s, u"picPopupMenu_1"_s});
+  });
   useSwitch(*ui_->btnDrawImages, {}, [this] { btnDrawImages_Click(); });
   vistrel_.DrawImages = true;
   Form_Load(openExisting);
@@ -62,10 +64,11 @@ QString frmEditor2::paneOf(QLatin1String screen) const {
   return {};
 }
 
-void frmEditor2::paintPanes(const FaultReporter& report) {
+void frmEditor2::paintPanes(const QStringList& only, const FaultReporter& report) {
   for (const Screen<clsVistrel3G>& screen : screensOf3G()) {
-    PictureBox* box = pane(paneOf(screen.id));
-    if (!box) continue;
+    const QString name = paneOf(screen.id);
+    PictureBox* box = pane(name);
+    if (!box || (!only.isEmpty() && !only.contains(name))) continue;
     stepPhone(screen.id, vistrel_, kHighestDesktopIcon, desk_.state, desk_.world);
     paintScreen(screen, vistrel_, *box, report);
   }

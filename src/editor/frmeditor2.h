@@ -16,7 +16,7 @@ class frmEditor2 : public EditorForm {
   frmEditor2(QWidget* owner, const EditorDesk& desk, bool openExisting);
 
  protected:
-  void paintPanes(const FaultReporter& report) override;
+  void paintPanes(const QStringList& only, const FaultReporter& report) override;
   bool PickColor() override;
 
  private:

@@ -22,7 +22,7 @@ class ImageButton : public QToolButton {
   void removed();
   /// The pointer or the keyboard's focus came to it.
   void entered();
-  /// Both are gone.
+  /// One of them is gone.
   void left();
 
  protected:

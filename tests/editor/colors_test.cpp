@@ -41,7 +41,7 @@ class EditorColors : public EditorTest {
       if (!control<QLabel>("picWarning" + slot.stem).pixmap().isNull()) stems << slot.stem;
     for (int tab = 0; tab < editorTabs(generation).size(); ++tab) {
       auto& button = control<QToolButton>(QString("btnTabs_%1").arg(tab));
-      if (!button.icon().isNull()) tabs << button.text();
+      if (!button.toolTip().isEmpty()) tabs << button.text();
     }
     EXPECT_EQ(enabled("btnSave_0"), enabled("btnSave_1"));
     return stems.join(' ') + '|' + tabs.join(' ') + '|' +
