@@ -11,9 +11,6 @@ namespace quillane {
 
 namespace {
 
-/// The button of `frmNew` that makes a theme of 3G; the others make one of generation 2.
-constexpr int kNew3G = 2;
-
 void showEditor(QWidget* owner, const EditorDesk& desk, Generation generation, bool openExisting) {
   if (generation == Generation::Two)
     frmEditor(owner, desk, openExisting).exec();
@@ -30,9 +27,7 @@ void editTheme(QWidget* owner, const EditorDesk& desk) {
 void makeTheme(QWidget* owner, const EditorDesk& desk) {
   frmNew question(owner, desk);
   question.exec();
-  if (question.choice() < 0) return;
-  showEditor(owner, desk, question.choice() == kNew3G ? Generation::ThreeG : Generation::Two,
-             false);
+  if (const auto generation = question.choice()) showEditor(owner, desk, *generation, false);
 }
 
 }  // namespace quillane

@@ -15,7 +15,6 @@
 #include "ui_editorform.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -29,10 +28,6 @@ constexpr int kWarningPicture = 109;
 constexpr int kCoverLine = 3;
 
 const QString kNewTheme = u"New Theme"_s;
-
-QString timeStamp(const QString& path) {
-  return QFileInfo(path).lastModified().toString(u"d.M.yyyy HH:mm"_s);
-}
 
 }  // namespace
 
@@ -98,8 +93,8 @@ void EditorForm::loadNew() {
   engine_.DefaultColors();
   ColorsToControls();
   DrawPreviews();
-  ui_->txtThemeAuthor->setText(desk_.settings.read(setting::ETTCreator));
   ui_->txtXML->setPlainText(GenerateXml());
+  ui_->txtThemeAuthor->setText(desk_.settings.read(setting::ETTCreator));
 }
 
 void EditorForm::readTags() {
@@ -110,7 +105,7 @@ void EditorForm::readTags() {
   ui_->txtThemeAuthor->setText(creator);
   ui_->txtThemeModifiedBy->setText(
       modifiedBy.isEmpty() ? desk_.settings.read(setting::ETTModifiedBy) : modifiedBy);
-  const QString stamp = timeStamp(state.ThemeXmlPath);
+  const QString stamp = tagTime(state.ThemeXmlPath);
   ui_->lblThemeCreated->setText(created.isEmpty() ? stamp : created);
   ui_->lblThemeModified->setText(created.isEmpty() ? QString() : stamp);
 }
@@ -137,12 +132,20 @@ void EditorForm::btnTabs_Click(int tab) {
     panes_[name]->show();
     ++place;
   }
-  layout->setRowStretch(layout->rowCount(), 1);
-  layout->setColumnStretch(2, 1);
   for (const auto& [button, name] : switches_)
     button->setVisible(name.isEmpty() ? !tabs_[tab].panes.isEmpty()
                                       : tabs_[tab].panes.contains(name));
   placeCoverLine();
+}
+
+void EditorForm::stepTab(int by) {
+  const int count = static_cast<int>(tabs_.size());
+  int tab = CurrentTab;
+  do
+    tab = (tab + by + count) % count;
+  while (btnTabs_[tab]->isHidden());
+  btnTabs_Click(tab);
+  btnTabs_[tab]->setFocus();
 }
 
 void EditorForm::placeCoverLine() {
@@ -227,19 +230,14 @@ void EditorForm::lock(QLineEdit& field, bool locked) {
   field.setPalette(colors);
 }
 
-QLineEdit* EditorForm::fieldOf(const QObject* label) const {
-  if (label == ui_->lblThemeName) return ui_->txtThemeName;
-  if (label == ui_->lblThemeAuthor) return ui_->txtThemeAuthor;
-  if (label == ui_->lblThemeModifiedBy) return ui_->txtThemeModifiedBy;
-  return nullptr;
-}
-
 bool EditorForm::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (widget && widget->window() == this) keepKeyState(*static_cast<QKeyEvent*>(event));
   } else if (event->type() == QEvent::MouseButtonRelease) {
-    QLineEdit* field = fieldOf(watched);
+    const auto* label = qobject_cast<QLabel*>(watched);
+    auto* field =
+        label && label->window() == this ? qobject_cast<QLineEdit*>(label->buddy()) : nullptr;
     if (field && desk_.state.CtrlDown) lock(*field, false);
   }
   return QDialog::eventFilter(watched, event);

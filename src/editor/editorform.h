@@ -44,7 +44,7 @@ struct EditorKind {
 /// An icon that takes up its place and shows nothing.
 QIcon noIcon();
 
-/// The editor of a theme, the same program for both generations. It works on an engine of its own,
+/// The editor of a theme, the same form for both generations. It works on an engine of its own,
 /// so the theme in the browser stays as it is. There is no question on closing.
 class EditorForm : public QDialog {
   Q_OBJECT
@@ -113,6 +113,8 @@ class EditorForm : public QDialog {
   void loadNew();
   void readTags();
   void btnTabs_Click(int tab);
+  /// Shows the next tab that is not hidden, or with -1 the one before.
+  void stepTab(int by);
   /// Moves the line below the tab on show.
   void placeCoverLine();
   void showCaption();
@@ -123,8 +125,6 @@ class EditorForm : public QDialog {
   void btnRevert_Click();
   void btnReset_Click();
   void lock(QLineEdit& field, bool locked);
-  /// The text box that a label of the information tab belongs to; null for none.
-  QLineEdit* fieldOf(const QObject* label) const;
   void keepKeyState(const QKeyEvent& event);
 
   // Colours (editorform_colors.cpp).
@@ -145,7 +145,9 @@ class EditorForm : public QDialog {
   /// The size that was read last.
   QSize measured() const;
   const ImageElement& slotElement(int slot) const;
-  clsOpenSave imageDialog(const QString& title) const;
+  clsOpenSave imageDialog(const ImageElement& element) const;
+  /// Asks for a picture; false, after a message, when its size does not suit the slot.
+  bool askForImage(clsOpenSave& dialog, const ImageElement& element);
   void fillSlot(int slot, const QString& path, bool autoSelected);
   void matchImages(const QString& chosen, int firstSlot);
 

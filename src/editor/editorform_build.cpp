@@ -119,7 +119,7 @@ QWidget* EditorForm::buildColorPage(int tab) {
   QGridLayout* grid = nullptr;
   QString group;
   std::size_t side = 0;
-  for (const ColorSlot& slot : tabs_[tab].slots_) {
+  for (const ColorSlot& slot : tabs_[tab].colorSlots) {
     if (slot.group != group) {
       group = slot.group;
       side = height[1] < height[0] ? 1 : 0;
@@ -139,7 +139,7 @@ QWidget* EditorForm::buildColorPage(int tab) {
 int EditorForm::captionWidth() const {
   int widest = 0;
   for (const EditorTab& tab : tabs_)
-    for (const ColorSlot& slot : tab.slots_)
+    for (const ColorSlot& slot : tab.colorSlots)
       widest = std::max(widest, fontMetrics().horizontalAdvance(slot.caption));
   return widest;
 }
@@ -188,6 +188,7 @@ void EditorForm::buildPanes() {
       pane->setFixedSize(client + QSize(2 * kBorder, 2 * kBorder));
       panes_.insert(name, pane);
     }
+  ui_->panes->setColumnStretch(kPaneColumns, 1);
   // The slots do not move from tab to tab.
   ui_->picPreviews->setFixedWidth(kPaneColumns * (client.width() + 2 * kBorder) + 8);
 }
@@ -250,24 +251,11 @@ void EditorForm::connectSignals() {
   }
   for (const ButtonPicture& row : kButtonPictures)
     findChild<QAbstractButton*>(QLatin1String(row.button))->setIcon(formIcon(row.picture));
-  for (QToolButton* button : {ui_->btnView, ui_->btnMore, ui_->btnDrawImages}) {
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  for (QToolButton* button : {ui_->btnView, ui_->btnMore, ui_->btnDrawImages})
     button->hide();
-  }
-  for (QLabel* label : {ui_->lblThemeName, ui_->lblThemeAuthor, ui_->lblThemeModifiedBy})
-    label->installEventFilter(this);
-  const auto step = [this](int by) {
-    const int count = static_cast<int>(tabs_.size());
-    int tab = CurrentTab;
-    do
-      tab = (tab + by + count) % count;
-    while (btnTabs_[tab]->isHidden());
-    btnTabs_Click(tab);
-    btnTabs_[tab]->setFocus();
-  };
   for (const auto& [keys, by] : {std::pair{Qt::Key_PageDown, 1}, {Qt::Key_PageUp, -1}})
     connect(new QShortcut(QKeySequence(Qt::CTRL | keys), this), &QShortcut::activated, this,
-            [step, by = by] { step(by); });
+            [this, by = by] { stepTab(by); });
   connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this), &QShortcut::activated, this,
           &QWidget::close);
   connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this), &QShortcut::activated,

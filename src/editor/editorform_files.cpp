@@ -59,7 +59,7 @@ void EditorForm::btnSave_Click(int index) {
                        .includeIndex = desk_.state.IncludeIndexFile,
                        .compress = desk_.state.CompressXMLCode,
                        .workFolder = desk_.state.AppTempFolder};
-  // The phone's own tools are silent about a failed pack, and so is the window.
+  // No box, by design; whoever started the program in a terminal is told.
   saveTheme(save, [](const Fault& fault) { std::fprintf(stderr, "quillane: %s\n", fault.what()); });
   EditorThemeFile = save.themePath;
   showCaption();

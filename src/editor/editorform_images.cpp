@@ -13,8 +13,6 @@
 #include "shell/state.h"
 #include "ui_editorform.h"
 
-#include <algorithm>
-
 namespace quillane {
 
 using namespace Qt::StringLiterals;
@@ -23,6 +21,7 @@ namespace {
 
 constexpr auto kGifFilter = "CompuServe Graphics Interchange (*.gif)|*.gif"_L1;
 constexpr auto kJpegFilter = "|JPEG Files (*.jpg)|*.jpg"_L1;
+constexpr int kGifFilterIndex = 1;
 constexpr int kJpegFilterIndex = 2;
 
 }  // namespace
@@ -48,9 +47,9 @@ void EditorForm::ImagesToControls() {
   }
 }
 
-clsOpenSave EditorForm::imageDialog(const QString& title) const {
+clsOpenSave EditorForm::imageDialog(const ImageElement& element) const {
   clsOpenSave dialog(desk_.dialogs);
-  dialog.DialogTitle = title;
+  dialog.DialogTitle = imageDialogTitle(element);
   dialog.InitDir = desk_.state.ImageFolder;
   dialog.FileName = u"*.gif"_s;
   dialog.Filter = kGifFilter;
@@ -58,23 +57,26 @@ clsOpenSave EditorForm::imageDialog(const QString& title) const {
   return dialog;
 }
 
+bool EditorForm::askForImage(clsOpenSave& dialog, const ImageElement& element) {
+  dialog.ShowOpen(this);
+  desk_.state.ImageFolder = SplitPath(dialog.FileName, PathPart::Folder);
+  measure(dialog.FileName, dialog.FilterIndex);
+  if (takesSize(element, measured())) return true;
+  desk_.dialogs.message(this, MessageIcon::Warning, kImageDimensionsTitle,
+                        imageDimensionsText(element, dialog.FileName, measured()));
+  return false;
+}
+
 void EditorForm::btnImage_Click(int slot) {
   const ImageElement& element = slotElement(slot);
-  clsOpenSave dialog = imageDialog(imageDialogTitle(element));
+  clsOpenSave dialog = imageDialog(element);
   if (!slotPath(slot).isEmpty()) {
     dialog.InitDir = SplitPath(slotPath(slot), PathPart::Folder);
     dialog.FileName = SplitPath(slotPath(slot), PathPart::Name);
     if (dialog.FileName.endsWith(".jpg"_L1, Qt::CaseInsensitive))
       dialog.FilterIndex = kJpegFilterIndex;
   }
-  dialog.ShowOpen(this);
-  desk_.state.ImageFolder = SplitPath(dialog.FileName, PathPart::Folder);
-  measure(dialog.FileName, dialog.FilterIndex);
-  if (!takesSize(element, measured())) {
-    desk_.dialogs.message(this, MessageIcon::Warning, kImageDimensionsTitle,
-                          imageDimensionsText(element, dialog.FileName, measured()));
-    return;
-  }
+  if (!askForImage(dialog, element)) return;
   fillSlot(slot, dialog.FileName, false);
   showImage(slot);
   DrawPreviews();
@@ -136,16 +138,10 @@ void EditorForm::clearImageInformation() {
 
 void EditorForm::btnAutoSelect_Click() {
   const ImageElement& element = slotElement(kind_.autoSlot);
-  clsOpenSave dialog = imageDialog(imageDialogTitle(element));
-  dialog.ShowOpen(this);
-  desk_.state.ImageFolder = SplitPath(dialog.FileName, PathPart::Folder);
-  measure(dialog.FileName, dialog.FilterIndex);
-  if (takesSize(element, measured())) {
+  clsOpenSave dialog = imageDialog(element);
+  if (askForImage(dialog, element)) {
     fillSlot(kind_.autoSlot, dialog.FileName, true);
     matchImages(dialog.FileName, kind_.autoSlot);
-  } else {
-    desk_.dialogs.message(this, MessageIcon::Warning, kImageDimensionsTitle,
-                          imageDimensionsText(element, dialog.FileName, measured()));
   }
   DrawPreviews();
 }
@@ -155,7 +151,7 @@ void EditorForm::matchImages(const QString& chosen, int firstSlot) {
   const QStringList files = listFiles(folder, u".gif"_s).mid(0, slotCount());
   for (const QString& file : files) {
     if (folder + file == chosen) continue;
-    measure(folder + file, 1);
+    measure(folder + file, kGifFilterIndex);
     for (int slot = 0; slot < slotCount(); ++slot)
       // Each file fills the first slot of exactly its size.
       if (slot != firstSlot && slotElement(slot).size == measured()) {

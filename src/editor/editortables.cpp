@@ -186,14 +186,15 @@ QList<int> followersOf(QLatin1String stem, Generation generation) {
 }
 
 QList<ColorSlot> slotsOf(QLatin1String tab, Generation generation) {
-  QList<ColorSlot> slots_;
+  QList<ColorSlot> colorSlots;
   for (const SlotRow& row : kSlots) {
     const int color = columnOf(row, generation, &SlotRow::color2, &SlotRow::color3G);
     if (tab != QLatin1String(row.tab) || color == kNone) continue;
-    slots_.append({QLatin1String(row.group), QLatin1String(row.caption), QLatin1String(row.stem),
-                   color, followersOf(QLatin1String(row.stem), generation)});
+    colorSlots.append({QLatin1String(row.group), QLatin1String(row.caption),
+                       QLatin1String(row.stem), color,
+                       followersOf(QLatin1String(row.stem), generation)});
   }
-  return slots_;
+  return colorSlots;
 }
 
 }  // namespace

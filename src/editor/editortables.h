@@ -26,7 +26,7 @@ enum class TabKind { Colors, Images, Information, Source };
 struct EditorTab {
   QString caption;
   TabKind kind;
-  QList<ColorSlot> slots_;
+  QList<ColorSlot> colorSlots;
   QStringList panes;  ///< The drawing boxes whose screens its slots change.
 };
 

@@ -49,14 +49,15 @@ frmNew::frmNew(QWidget* owner, const EditorDesk& desk)
   ui_->btnNew_0->setIcon(iconOf(two, Surface::kSize2, &clsVistrel::DrawDesktop));
   ui_->btnNew_1->setIcon(iconOf(two, Surface::kSize2, &clsVistrel::DrawMenuMedium));
   ui_->btnNew_2->setIcon(iconOf(threeG, Surface::kSize3G, &clsVistrel3G::DrawDesktop));
-  QAbstractButton* const buttons[] = {ui_->btnNew_0, ui_->btnNew_1, ui_->btnNew_2};
-  for (int index = 0; QAbstractButton * button : buttons) {
+  const std::pair<QAbstractButton*, Generation> choices[] = {{ui_->btnNew_0, Generation::Two},
+                                                             {ui_->btnNew_1, Generation::Two},
+                                                             {ui_->btnNew_2, Generation::ThreeG}};
+  for (const auto& [button, generation] : choices) {
     button->setCursor(Qt::PointingHandCursor);
-    connect(button, &QAbstractButton::clicked, this, [this, index] {
-      choice_ = index;
+    connect(button, &QAbstractButton::clicked, this, [this, generation = generation] {
+      choice_ = generation;
       accept();
     });
-    ++index;
   }
   ui_->btnCancel->setIcon(formIcon(102));
   connect(ui_->btnCancel, &QAbstractButton::clicked, this, &QDialog::reject);

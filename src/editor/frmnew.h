@@ -3,10 +3,12 @@
 #pragma once
 
 #include "editor/editor.h"
+#include "theme/elements.h"
 
 #include <QDialog>
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class frmNew;
@@ -23,15 +25,15 @@ class frmNew : public QDialog {
   frmNew(QWidget* owner, const EditorDesk& desk);
   ~frmNew() override;
 
-  /// The button that was clicked, from 0, or -1.
-  int choice() const { return choice_; }
+  /// Whose phones the theme is for; nothing when the person cancelled.
+  std::optional<Generation> choice() const { return choice_; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   std::unique_ptr<Ui::frmNew> ui_;
-  int choice_ = -1;
+  std::optional<Generation> choice_;
 };
 
 }  // namespace quillane

@@ -22,7 +22,7 @@ class ImageButton : public QToolButton {
   void removed();
   /// The pointer or the keyboard's focus came to it.
   void entered();
-  /// One of them is gone.
+  /// The pointer or the focus left it.
   void left();
 
  protected:

@@ -6,8 +6,6 @@
 #include "thmtool/verbs.h"
 
 #include <QCommandLineParser>
-#include <QDateTime>
-#include <QFileInfo>
 
 namespace quillane {
 
@@ -19,8 +17,7 @@ namespace {
 ThemeTagTexts tagsOf(const LoadedTheme& theme, const FaultReporter& report) {
   ThemeTagTexts tags = readThemeTags(theme.xml, report);
   QString& created = tags.back();
-  if (created.isEmpty())
-    created = QFileInfo(theme.xmlPath).lastModified().toString(u"d.M.yyyy hh:mm"_s);
+  if (created.isEmpty()) created = tagTime(theme.xmlPath);
   return tags;
 }
 

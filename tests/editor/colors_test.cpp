@@ -29,7 +29,7 @@ class EditorColors : public EditorTest {
   QList<QImage> panesOf(const ColorSlot& slot) {
     QList<QImage> shown;
     for (const EditorTab& tab : editorTabs(generation))
-      for (const ColorSlot& its : tab.slots_)
+      for (const ColorSlot& its : tab.colorSlots)
         for (const QString& pane : its.stem == slot.stem ? tab.panes : QStringList())
           shown << control<PictureBox>(pane).surface().image().copy();
     return shown;
@@ -75,7 +75,7 @@ TEST_F(EditorColors, EverySchemaColorHasItsSlot) {
     EXPECT_EQ(static_cast<std::size_t>(properties.size()), schemaOf(which).colors.size());
     EXPECT_EQ(colorSlots().size(), properties.size());
     for (const EditorTab& tab : editorTabs(which))
-      for (const ColorSlot& slot : tab.slots_)
+      for (const ColorSlot& slot : tab.colorSlots)
         names << tab.caption + slot.group + slot.caption;
     EXPECT_EQ(names.size(), properties.size()) << "two slots look the same";
   }

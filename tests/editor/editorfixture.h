@@ -115,7 +115,7 @@ class EditorTest : public TempFolder {
   QList<ColorSlot> colorSlots() const {
     QList<ColorSlot> found;
     for (const EditorTab& tab : editorTabs(generation))
-      found += tab.slots_;
+      found += tab.colorSlots;
     return found;
   }
   /// Clicks a swatch and answers its dialog; an empty colour cancels it.
