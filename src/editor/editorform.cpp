@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/editorform.h"
 
-#include "editor/colorswatch.h"
 #include "editor/imagebutton.h"
+#include "forms/colorfield.h"
 #include "forms/dialogs.h"
 #include "forms/formicons.h"
 #include "forms/picturebox.h"
@@ -58,6 +58,8 @@ void EditorForm::Form_Load(bool openExisting) {
   for (int tab = 0; tab < tabs_.size(); ++tab)
     if (tabs_[tab].kind == TabKind::Information && desk_.state.DisableETT) btnTabs_[tab]->hide();
   btnTabs_Click(0);
+  // A key that was held when the editor was asked for may be released before it listens.
+  desk_.state.CtrlDown = desk_.state.ShiftDown = false;
   run(u"Form_Load"_s, [this, openExisting] {
     if (openExisting)
       loadExisting();
@@ -180,7 +182,7 @@ void EditorForm::CheckColorContrast() {
   for (const int color : close) {
     const SlotControls& controls = controlsOf(color);
     controls.warning->setPixmap(formPixmap(kWarningPicture));
-    controls.swatch->setAccessibleDescription(controls.warning->toolTip());
+    controls.text->setAccessibleDescription(controls.warning->toolTip());
     btnTabs_[controls.tab]->setIcon(formIcon(kWarningPicture));
     btnTabs_[controls.tab]->setToolTip(controls.warning->toolTip());
   }
@@ -196,7 +198,7 @@ void EditorForm::CheckColorContrast() {
 void EditorForm::clearWarnings() {
   for (const SlotControls& controls : slots_) {
     controls.warning->setPixmap({});
-    controls.swatch->setAccessibleDescription({});
+    controls.text->setAccessibleDescription({});
   }
   for (QAbstractButton* button : btnTabs_) {
     button->setIcon(noIcon());

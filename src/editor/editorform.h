@@ -27,7 +27,7 @@ class EditorForm;
 
 namespace quillane {
 
-class ColorSwatch;
+class ColorField;
 class ImageButton;
 class PictureBox;
 class PreviewEngine;
@@ -87,7 +87,7 @@ class EditorForm : public QDialog {
   struct SlotControls {
     ColorSlot slot;
     int tab;
-    ColorSwatch* swatch;
+    ColorField* swatch;
     QLineEdit* text;
     QLabel* warning;
   };

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The controls that the tables ask for, and which event runs which procedure.
-#include "editor/colorswatch.h"
 #include "editor/editorform.h"
 #include "editor/imagebutton.h"
+#include "forms/colorfield.h"
 #include "forms/eventprocedure.h"
 #include "forms/formicons.h"
 #include "forms/picturebox.h"
@@ -146,7 +146,9 @@ int EditorForm::captionWidth() const {
 
 void EditorForm::addSlot(QGridLayout& grid, int tab, const ColorSlot& slot) {
   auto* caption = new QLabel(slot.caption);
-  auto* swatch = new ColorSwatch;
+  auto* swatch = new ColorField;
+  swatch->setCursor(Qt::PointingHandCursor);
+  swatch->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   auto* text = new QLineEdit;
   auto* warning = new QLabel;
   swatch->setObjectName(u"lbl%1Clr"_s.arg(slot.stem));
@@ -172,7 +174,7 @@ void EditorForm::addSlot(QGridLayout& grid, int tab, const ColorSlot& slot) {
   grid.addWidget(warning, row, 3);
   grid.setColumnStretch(0, 1);
   slots_.append({slot, tab, swatch, text, warning});
-  connect(swatch, &ColorSwatch::clicked, this, [this, index = slots_.size() - 1] {
+  connect(swatch, &ColorField::clicked, this, [this, index = slots_.size() - 1] {
     const SlotControls& controls = slots_[index];
     run(controls.swatch->objectName() + "_Click"_L1, [&] { lblClr_Click(controls); });
   });

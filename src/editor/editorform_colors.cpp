@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Colours: their swatches, and those that follow.
-#include "editor/colorswatch.h"
 #include "editor/editorform.h"
+#include "forms/colorfield.h"
 #include "preview/previewengine.h"
 #include "shell/state.h"
 #include "ui_editorform.h"
@@ -10,15 +10,19 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillane {
 
 void EditorForm::lblClr_Click(const SlotControls& controls) {
   PublicState& state = desk_.state;
   state.PickerColorIn = static_cast<std::int32_t>(controls.swatch->color());
-  if (!PickColor()) return;
+  const bool picked = PickColor();
+  // A Ctrl key released over the dialog is never seen here, so it counts once.
+  const bool alone = std::exchange(state.CtrlDown, false);
+  if (!picked) return;
   QList<int> colors{controls.slot.color};
-  if (!state.CtrlDown) colors += controls.slot.followers;
+  if (!alone) colors += controls.slot.followers;
   const QString rgb = ColorToHtml(QString::number(state.PickerColorOut));
   for (const int color : colors) {
     engine_.setColor(color, rgb);
@@ -26,8 +30,6 @@ void EditorForm::lblClr_Click(const SlotControls& controls) {
   }
   DrawPreviews();
   CheckColorContrast();
-  // A Ctrl key released over the dialog is never seen here.
-  if (!controls.slot.followers.isEmpty()) state.CtrlDown = false;
 }
 
 void EditorForm::showColor(const SlotControls& controls) {

@@ -91,13 +91,20 @@ bool DesktopDialogs::chooseFile(QWidget* owner, clsOpenSave& request, FileQuesti
 
 std::optional<ColorValue> DesktopDialogs::chooseColor(QWidget* owner, ColorValue initial,
                                                       CustomColors& custom) {
-  for (std::size_t i = 0; i < custom.size(); ++i)
+  QColorDialog dialog(colorOf(initial), owner);
+  // The dialog keeps its custom colours for all programs of the desktop; ours are on loan.
+  std::array<QColor, std::tuple_size_v<CustomColors>> kept;
+  for (std::size_t i = 0; i < custom.size(); ++i) {
+    kept[i] = QColorDialog::customColor(static_cast<int>(i));
     QColorDialog::setCustomColor(static_cast<int>(i), colorOf(custom[i]));
-  const QColor chosen = QColorDialog::getColor(colorOf(initial), owner);
-  for (std::size_t i = 0; i < custom.size(); ++i)
+  }
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  for (std::size_t i = 0; i < custom.size(); ++i) {
     custom[i] = colorValueOf(QColorDialog::customColor(static_cast<int>(i)));
-  if (!chosen.isValid()) return {};
-  return colorValueOf(chosen);
+    QColorDialog::setCustomColor(static_cast<int>(i), kept[i]);
+  }
+  if (!accepted) return {};
+  return colorValueOf(dialog.selectedColor());
 }
 
 void DesktopDialogs::beep() {

@@ -6,6 +6,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -64,7 +65,6 @@ ColorPalette::ColorPalette(QWidget* parent) : QTableView(parent), model_(new Pal
     header->setMinimumSectionSize(1);
     header->setSectionResizeMode(QHeaderView::Fixed);
   }
-  connect(this, &QTableView::clicked, this, &ColorPalette::pick);
 }
 
 void ColorPalette::loadBuiltIn() {
@@ -99,6 +99,15 @@ void ColorPalette::pick(const QModelIndex& field) {
   if (model_->placeOf(field) < 0) return;
   setCurrentIndex(field);
   Q_EMIT Click();
+}
+
+void ColorPalette::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) QTableView::mousePressEvent(event);
+}
+
+// A small slip between press and release still picks what is framed.
+void ColorPalette::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) pick(indexAt(event->position().toPoint()));
 }
 
 void ColorPalette::keyPressEvent(QKeyEvent* event) {

@@ -99,7 +99,7 @@ void frmClrPicker::connectSignals() {
   }
   ui_->txtHTML->installEventFilter(this);
   connect(ui_->txtHTML, &QLineEdit::textChanged, this, &frmClrPicker::txtHTML_Change);
-  connect(ui_->lblOldColor, &ColorField::Click, this, &frmClrPicker::lblOldColor_Click);
+  connect(ui_->lblOldColor, &ColorField::clicked, this, &frmClrPicker::lblOldColor_Click);
   connect(ui_->ctrColorPalette, &ColorPalette::Click, this, &frmClrPicker::ctrColorPalette_Click);
   connect(ui_->btnPalette, &QPushButton::clicked, this, &frmClrPicker::btnPalette_Click);
   connect(ui_->btnOpen, &QPushButton::clicked, this, &frmClrPicker::btnOpen_Click);
@@ -139,6 +139,7 @@ void frmClrPicker::showEvent(QShowEvent* event) {
 
 // The window outlasts its owners, so none of them becomes its parent.
 void frmClrPicker::showOver(QWidget* owner) {
+  adjustSize();
   if (!testAttribute(Qt::WA_Moved)) adjustPosition(owner);
   winId();
   if (owner) windowHandle()->setTransientParent(owner->window()->windowHandle());
@@ -182,7 +183,7 @@ void frmClrPicker::vsbPart_Change(const Part& part) {
   part.text->setText(QString::number(part.bar->value()));
 }
 
-// What is typed from the left fills the colour part by part; the bars of the parts to come wait.
+// What is typed from the left fills the colour part by part.
 void frmClrPicker::txtHTML_Change() {
   if (ui_->txtHTML->text().isEmpty()) {
     EchoToHtml = false;
@@ -194,11 +195,11 @@ void frmClrPicker::txtHTML_Change() {
   const auto& [red, green, blue] = parts_;
   if (html.size() <= 2) {
     takePart(red, color);
-    green.text->setText(u"0"_s);
-    blue.text->setText(u"0"_s);
+    takePart(green, 0);
+    takePart(blue, 0);
   } else if (html.size() <= 4) {
     takePart(green, color);
-    blue.text->setText(u"0"_s);
+    takePart(blue, 0);
   } else if (html.size() == 5) {
     takePart(blue, color);
   } else {
@@ -235,11 +236,15 @@ void frmClrPicker::lblOldColor_Click() {
   // The parts are the source here, wherever the focus was last.
   const bool before = std::exchange(EchoToHtml, true);
   showParts(ui_->lblOldColor->color());
+  takeColor(ui_->lblOldColor->color());
   EchoToHtml = before;
 }
 
 void frmClrPicker::ctrColorPalette_Click() {
-  const ColorValue color = ui_->ctrColorPalette->colorAt(ui_->ctrColorPalette->selectedIndex());
+  takeColor(ui_->ctrColorPalette->colorAt(ui_->ctrColorPalette->selectedIndex()));
+}
+
+void frmClrPicker::takeColor(ColorValue color) {
   ui_->lblNewColor->setColor(color);
   for (const Part& part : parts_)
     part.bar->setValue(part.of(color));

@@ -76,6 +76,8 @@ class frmClrPicker : public QDialog {
   void checkItem(int item);
 
   void takePart(const Part& part, ColorValue color);
+  /// Makes a colour the new one, in all that shows it.
+  void takeColor(ColorValue color);
   void showParts(ColorValue color);
   void showNewColor();
   ColorValue colorOfTexts() const;

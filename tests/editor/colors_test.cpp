@@ -17,7 +17,7 @@ class EditorColors : public EditorTest {
     QStringList stems;
     for (const ColorSlot& slot : colorSlots()) {
       const bool swatch =
-          control<ColorSwatch>("lbl" + slot.stem + "Clr").color() == colorValueOf(rgb);
+          control<ColorField>("lbl" + slot.stem + "Clr").color() == colorValueOf(rgb);
       const bool box = text("txt" + slot.stem + "Clr") == rgb;
       const bool inEngine = engine().color(slot.color) == rgb;
       if (swatch || box || inEngine) stems << slot.stem + (swatch && box && inEngine ? "" : "!");
@@ -130,7 +130,7 @@ TEST_F(EditorColors, ShowTheColorAndKeepItOnCancel) {
   for (const Generation which : kBoth) {
     openNew(which);
     pick("Text", "C03A10");
-    const QImage swatch = control<ColorSwatch>("lblTextClr").grab().toImage();
+    const QImage swatch = control<ColorField>("lblTextClr").grab().toImage();
     EXPECT_EQ(swatch.pixelColor(swatch.rect().center()), QColor("#C03A10"));
     pick("Text", {});
     EXPECT_EQ(holders("C03A10"),

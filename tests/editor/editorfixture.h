@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/colorswatch.h"
+#include "forms/colorfield.h"
 #include "editor/editortables.h"
 #include "editor/frmeditor.h"
 #include "editor/frmeditor2.h"
@@ -17,7 +17,7 @@
 #include "support/tinygif.h"
 #include "theme/archive.h"
 #include "theme/load.h"
-#include "tools/colorfield.h"
+#include "forms/colorfield.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -120,7 +120,7 @@ class EditorTest : public TempFolder {
   }
   /// Clicks a swatch and answers its dialog; an empty colour cancels it.
   void pick(const QString& stem, const QString& rgb) {
-    const ColorValue color = control<ColorSwatch>("lbl" + stem + "Clr").color();
+    const ColorValue color = control<ColorField>("lbl" + stem + "Clr").color();
     const QString before = ColorToHtml(QString::number(color));
     if (generation == Generation::ThreeG)
       dialogs.expectColor(before, rgb);

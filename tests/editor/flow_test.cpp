@@ -153,7 +153,7 @@ TEST_F(Editor, OpensTheThemeOnShow) {
               .join('|'),
           expected);
       EXPECT_EQ(text("txtTextClr"), "7F0102");
-      EXPECT_EQ(control<ColorSwatch>("lblTextClr").color(), 0x02017Fu);
+      EXPECT_EQ(control<ColorField>("lblTextClr").color(), 0x02017Fu);
       EXPECT_EQ(control<ImageButton>(is2 ? "btnImage_0" : "btnImage_1").path(), path("temp/w.gif"));
       EXPECT_EQ(source(), QString(state.ThemeXml).remove('\r'));
       EXPECT_EQ(state.EditorEngine2->StandbyType, 1);
@@ -229,7 +229,7 @@ TEST_F(Editor, IsReachedWithTheKeyboard) {
         EXPECT_TRUE(stop->isVisible());
         EXPECT_NE(QAccessible::queryAccessibleInterface(stop)->text(QAccessible::Name), "")
             << stop->objectName().toStdString();
-        if (qobject_cast<ColorSwatch*>(stop)) swatches << stop->objectName();
+        if (qobject_cast<ColorField*>(stop)) swatches << stop->objectName();
         press(Qt::Key_Tab);
       } while (QApplication::focusWidget() != first);
       QStringList expected;

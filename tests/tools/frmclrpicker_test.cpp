@@ -7,7 +7,7 @@
 #include "shell/state.h"
 #include "support/scripteddialogs.h"
 #include "support/tempfolder.h"
-#include "tools/colorfield.h"
+#include "forms/colorfield.h"
 #include "tools/colorpalette.h"
 #include "tools/palettemodel.h"
 
@@ -98,15 +98,15 @@ TEST_F(ColorPicker, FollowsWhatIsTyped) {
       {"cleared and typed", "txtBlue", "\b7", "48 96 7|48 96 7|306007|306007"},
       {"keys that are no digits", "txtRed", "a1-. 2", "12 96 144|12 96 144|0C6090|0C6090"},
 
-      {"HTML, one digit", "txtHTML", "F", "240 0 0|240 96 144|F|F06090"},
-      {"HTML, two", "txtHTML", "ff", "255 0 0|255 96 144|FF|FF6090"},
-      {"HTML, three", "txtHTML", "ff8", "255 128 0|255 128 144|FF8|FF8090"},
-      {"HTML, four", "txtHTML", "ff81", "255 129 0|255 129 144|FF81|FF8190"},
+      {"HTML, one digit", "txtHTML", "F", "240 0 0|240 0 0|F|F00000"},
+      {"HTML, two", "txtHTML", "ff", "255 0 0|255 0 0|FF|FF0000"},
+      {"HTML, three", "txtHTML", "ff8", "255 128 0|255 128 0|FF8|FF8000"},
+      {"HTML, four", "txtHTML", "ff81", "255 129 0|255 129 0|FF81|FF8100"},
       {"HTML, five", "txtHTML", "ff814", "255 129 64|255 129 64|FF814|FF8140"},
       {"HTML, six", "txtHTML", "ff8142", "255 129 66|255 129 66|FF8142|FF8142"},
       {"HTML, seven", "txtHTML", "ff81427", "255 129 66|255 129 66|FF8142|FF8142"},
-      {"HTML, keys that are no digits", "txtHTML", "gf #zf", "255 0 0|255 96 144|FF|FF6090"},
-      {"HTML, taken back", "txtHTML", "ff8\b", "255 0 0|255 128 144|FF|FF8090"},
+      {"HTML, keys that are no digits", "txtHTML", "gf #zf", "255 0 0|255 0 0|FF|FF0000"},
+      {"HTML, taken back", "txtHTML", "ff8\b", "255 0 0|255 0 0|FF|FF0000"},
       {"HTML, cleared", "txtHTML", "\b", "0 0 0|0 0 0|000000|000000"}};
   for (const auto& [name, box, keys, expected] : cases) {
     open();

@@ -8,12 +8,13 @@
 
 namespace quillane {
 
-/// The coloured field of a slot, which a click, Space or Enter opens.
-class ColorSwatch : public QAbstractButton {
+/// A field of one colour that a click, Space or Enter opens. Assistive programs hear the colour as
+/// RRGGBB.
+class ColorField : public QAbstractButton {
   Q_OBJECT
 
  public:
-  explicit ColorSwatch(QWidget* parent = nullptr);
+  explicit ColorField(QWidget* parent = nullptr);
 
   ColorValue color() const { return color_; }
   void setColor(ColorValue color);

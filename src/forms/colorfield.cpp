@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editor/colorswatch.h"
+#include "forms/colorfield.h"
 
 #include "forms/formcolors.h"
 
@@ -10,22 +10,22 @@
 
 namespace quillane {
 
-ColorSwatch::ColorSwatch(QWidget* parent) : QAbstractButton(parent) {
-  setCursor(Qt::PointingHandCursor);
+ColorField::ColorField(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::StrongFocus);
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setColor(0);
 }
 
-void ColorSwatch::setColor(ColorValue color) {
+void ColorField::setColor(ColorValue color) {
   color_ = color;
+  setAccessibleDescription(ColorToHtml(QString::number(color)));
   update();
 }
 
-QSize ColorSwatch::sizeHint() const {
+QSize ColorField::sizeHint() const {
   return {52, 22};
 }
 
-void ColorSwatch::paintEvent(QPaintEvent*) {
+void ColorField::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   QStyleOptionFrame frame;
   frame.initFrom(this);
@@ -39,7 +39,7 @@ void ColorSwatch::paintEvent(QPaintEvent*) {
   painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
-void ColorSwatch::keyPressEvent(QKeyEvent* event) {
+void ColorField::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
     click();
   else
