@@ -92,8 +92,10 @@ void applyEdits(EditedTheme& theme, const EditOptions& options) {
         placeOf(image, schema, schema.images, u"image"_s),
         image.text.isEmpty() ? QString() : QFileInfo(image.text).absoluteFilePath());
   for (const Assignment& image : options.images) {
-    const auto slot = static_cast<std::size_t>(rowOfElement(schema.images, image.element));
-    if (!image.text.isEmpty()) checkPicture(schema, schema.images[slot], image.text);
+    const int slot = rowOfElement(schema.images, image.element);
+    // An earlier picture of the same slot is not there any more.
+    const QString& path = theme.values.image(slot);
+    if (!path.isEmpty()) checkPicture(schema, schema.images[static_cast<std::size_t>(slot)], path);
   }
   for (const Assignment& tag : options.tags)
     theme.tags.at(static_cast<std::size_t>(rowOfElement(kThemeTags, tag.element))) = tag.text;

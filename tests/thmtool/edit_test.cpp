@@ -145,7 +145,10 @@ TEST_F(Edit, RefusesPicturesAndWritesNothing) {
         (ToolRun{NotDone, "", ("thmtool " + words[0] + ": " + complaint + '\n').toStdString()}));
   EXPECT_EQ(runTool({"edit", theme, out, "--set", "Scrollbar=000000"}).status, WrongUsage);
   EXPECT_EQ(read("Out.thm"), "old");
-  EXPECT_EQ(runTool({"new", "3g", out, "--image", "Statusbar_background_image=" + jpeg}), kQuiet);
+  EXPECT_EQ(runTool({"new", "3g", out, "--image", "Statusbar_background_image=" + wide, "--image",
+                     "Statusbar_background_image=" + jpeg}),
+            kQuiet)
+      << "the later picture counts alone";
   EXPECT_EQ(membersOf("Out.thm"), "out.xml index.txt fine.jpg");
 }
 
