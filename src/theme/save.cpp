@@ -3,6 +3,7 @@
 #include "theme/save.h"
 
 #include "theme/archive.h"
+#include "theme/archive_reader.h"
 #include "theme/codepage.h"
 #include "theme/files.h"
 #include "theme/writer.h"
@@ -16,6 +17,9 @@ namespace quillane {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr auto kIndexName = "index.txt"_L1;
+constexpr qsizetype kLongestName = 255;
 
 /// The folder in which a save makes its files: empty at first, gone with the object.
 class NewFolder {
@@ -36,16 +40,19 @@ class NewFolder {
 
   /// Makes a file in the folder and returns its path. Throws `Fault`.
   QString make(const QString& name, const QByteArray& bytes) const {
-    QString path = folder_.filePath(name);
+    QString path = pathOf(name);
     saveFile(path, bytes);
     return path;
   }
 
  private:
+  /// The toolkit's own joining takes a name with a colon in front for no file of the folder.
+  QString pathOf(const QString& name) const { return folder_.path() + u'/' + name; }
+
   void empty() {
     folder_.refresh();
     for (const QString& name : folder_.entryList(QDir::Files | QDir::Hidden | QDir::System))
-      folder_.remove(name);
+      QFile::remove(pathOf(name));
   }
 
   QDir folder_;
@@ -64,11 +71,31 @@ QStringList indexedImages(const ThemeSave& save) {
   return themeImages(listed);
 }
 
+/// Refuses an image that a reader would take for the XML or the index.
+void checkImageName(const QString& image) {
+  const QString name = QFileInfo(image).fileName();
+  const QString taken = memberName(toCodePage(name)).toLower();
+  if (taken.endsWith(".xml"_L1) || taken == kIndexName)
+    throw Fault(FaultNumber::BadCall,
+                u"The image \"%1\" cannot be packed under this name, which is for other files of a "
+                "theme; rename it."_s.arg(name));
+}
+
+/// The name of the XML that a save makes. Throws `Fault` for one that no file can have.
+QString xmlName(const QString& themePath) {
+  QString name = themeTitle(themePath).toLower() + ".xml"_L1;
+  if (QFile::encodeName(name).size() > kLongestName)
+    throw Fault(FaultNumber::BadCall,
+                u"The name of \"%1\" is too long: its XML file could not be named after it."_s.arg(
+                    themePath));
+  return name;
+}
+
 QStringList makeFiles(const ThemeSave& save, const NewFolder& folder) {
   const QString xml = save.compress ? compressXml(save.xml) : save.xml;
-  QStringList files{folder.make(themeTitle(save.themePath).toLower() + ".xml"_L1, toCodePage(xml))};
+  QStringList files{folder.make(xmlName(save.themePath), toCodePage(xml))};
   if (save.includeIndex)
-    files += folder.make(u"index.txt"_s, themeIndex(files + indexedImages(save), IndexEnd::Bare));
+    files += folder.make(kIndexName, themeIndex(files + indexedImages(save), IndexEnd::Bare));
   return files;
 }
 
@@ -83,10 +110,13 @@ QString themeSavePath(const QString& path) {
 }
 
 bool saveTheme(const ThemeSave& save, const FaultReporter& report) {
+  const QStringList images = themeImages(save.edited);
+  for (const QString& image : images)
+    checkImageName(image);
   const NewFolder folder(save.workFolder);
   const QStringList files = makeFiles(save, folder);
   try {
-    packArchive(save.themePath, files + themeImages(save.edited));
+    packArchive(save.themePath, files + images);
   } catch (const Fault& fault) {
     report(fault);
     return false;

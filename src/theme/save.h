@@ -32,8 +32,9 @@ struct ThemeSave {
 /// Saves a theme as an archive of its XML, the index where wanted, and its images.
 ///
 /// Throws `Fault` when the XML or the index cannot be made, as when an image to be listed is not
-/// there. A fault of the packing itself goes to `report`, and the result is false. The archive that
-/// was there stays as it was in both cases.
+/// there, and for an image that is named like one of them ("*.xml", "index.txt"). A fault of the
+/// packing itself goes to `report`, and the result is false. The archive that was there stays as it
+/// was in both cases.
 bool saveTheme(const ThemeSave& save, const FaultReporter& report);
 
 }  // namespace quillane

@@ -3,16 +3,12 @@
 #include "thmtool/editedtheme.h"
 
 #include "shell/imagerules.h"
-#include "theme/codepage.h"
-#include "theme/contrast.h"
 #include "theme/save.h"
 #include "theme/writer.h"
 #include "thmtool/folders.h"
+#include "thmtool/savewarnings.h"
 
 #include <QFileInfo>
-#include <QHash>
-
-#include <algorithm>
 
 namespace quillane {
 
@@ -38,42 +34,6 @@ void checkPicture(const ThemeSchema& schema, const ImageElement& slot, const QSt
               imageDimensionsText(slot, path, size).replace("\r\n"_L1, " "_L1).simplified());
 }
 
-/// Whether a reader finds an image by its name in the XML.
-bool canBeNamed(const QString& name) {
-  constexpr QLatin1String kMisread("\"\\*?");
-  return name != "xxx.gif"_L1 && fromCodePage(toCodePage(name)) == name &&
-         std::none_of(name.begin(), name.end(),
-                      [&](QChar sign) { return kMisread.contains(sign); });
-}
-
-/// Images that the archive cannot tell apart or that the XML cannot name.
-QStringList imageTroubles(const ThemeValues& values) {
-  QStringList troubles;
-  QHash<QString, QFileInfo> known;
-  for (int slot = 0; slot < static_cast<int>(values.schema().images.size()); ++slot) {
-    if (values.image(slot).isEmpty()) continue;
-    const QFileInfo file(values.image(slot));
-    const QString name = file.fileName().toLower();
-    if (!canBeNamed(name))
-      troubles += u"The image \"%1\" will not be seen: no theme can hold such a name."_s.arg(name);
-    else if (known.contains(name) && known.value(name) != file)
-      troubles += u"Different images are named \"%1\"; one will be seen for all."_s.arg(name);
-    known.insert(name, file);
-  }
-  troubles.removeDuplicates();
-  return troubles;
-}
-
-void warn(const ThemeValues& values, const Streams& streams) {
-  QStringList close;
-  for (const int index : closeColors(values))
-    close += values.schema().colors[static_cast<std::size_t>(index)].element;
-  if (!close.isEmpty())
-    streams.complain(u"Colours that are too close to tell apart: %1."_s.arg(close.join(", "_L1)));
-  for (const QString& trouble : imageTroubles(values))
-    streams.complain(trouble);
-}
-
 /// The theme that decides on the index. An image that was taken out shall keep nobody from saving.
 const ThemeValues* shownFor(const EditedTheme& theme, const ThemeValues* shown) {
   const bool isSmallEmpty = theme.values.schema().generation == Generation::Two &&
@@ -92,8 +52,10 @@ void applyEdits(EditedTheme& theme, const EditOptions& options) {
         placeOf(image, schema, schema.images, u"image"_s),
         image.text.isEmpty() ? QString() : QFileInfo(image.text).absoluteFilePath());
   for (const Assignment& image : options.images) {
-    const auto slot = static_cast<std::size_t>(rowOfElement(schema.images, image.element));
-    if (!image.text.isEmpty()) checkPicture(schema, schema.images[slot], image.text);
+    const int slot = rowOfElement(schema.images, image.element);
+    // An earlier picture of the same slot is not there any more.
+    const QString& path = theme.values.image(slot);
+    if (!path.isEmpty()) checkPicture(schema, schema.images[static_cast<std::size_t>(slot)], path);
   }
   for (const Assignment& tag : options.tags)
     theme.tags.at(static_cast<std::size_t>(rowOfElement(kThemeTags, tag.element))) = tag.text;
@@ -101,13 +63,15 @@ void applyEdits(EditedTheme& theme, const EditOptions& options) {
 
 int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString& themePath,
                const EditOptions& options, const Streams& streams) {
-  warn(theme.values, streams);
-  const QTemporaryDir folder = makeWorkFolder();
   const ThemeTagTexts tags = options.writeTags ? theme.tags : ThemeTagTexts();
+  const QString xml = generateXml(theme.values, tags);
+  for (const QString& warning : saveWarnings(theme.values, tags, xml))
+    streams.complain(warning);
+  const QTemporaryDir folder = makeWorkFolder();
   const bool saved = saveTheme({.themePath = themePath,
                                 .edited = theme.values,
                                 .shown = shownFor(theme, shown),
-                                .xml = generateXml(theme.values, tags),
+                                .xml = xml,
                                 .includeIndex = options.includeIndex,
                                 .compress = options.compress,
                                 .workFolder = folder.path()},

@@ -227,10 +227,36 @@ TEST_F(Save, LeavesTheOldThemeWhereItFails) {
   EXPECT_EQ(listOf("t"), QStringList("Old.thm"));
 }
 
+TEST_F(Save, RefusesNamesThatWouldRuinTheTheme) {
+  const QString longTheme = "t/" + QString(252, u'l') + ".t";
+  const std::tuple<QString, QString, QString> rows[] = {{"t/a.thm", "A.xml", "A.xml"},
+                                                        {"t/a.thm", "0.Xml", "0.Xml"},
+                                                        {"t/a.thm", "Index.TXT", "Index.TXT"},
+                                                        {"t/a.thm", "a\\index.txt", "a\\index.txt"},
+                                                        {longTheme, "fine.gif", path(longTheme)}};
+  for (const auto& [theme, image, named] : rows) {
+    ThemeValues values(Generation::Two);
+    values.setImage(gen2::DesktopBackgroundImage, write("pictures/" + image, "GIF"));
+    write(theme, "old");
+    try {
+      save(theme, values, {}, {false, true});
+      ADD_FAILURE() << qPrintable(image);
+    } catch (const Fault& fault) {
+      EXPECT_TRUE(fault.description().contains('"' + named + '"')) << fault.what();
+    }
+    EXPECT_EQ(read(theme), "old");
+  }
+}
+
 TEST_F(Save, CleansItsFolderAndNoOther) {
   const ThemeValues values(Generation::Two);
   write("work/back.gif", "kept");
   write("work/new/left.gif", "old");
+  write("work/new/:left.gif", "old");
+  makeFolder("t");
+  EXPECT_TRUE(save("t/:A.thm", values));
+  EXPECT_EQ(membersOf("t/:A.thm"), QStringList({":a.xml", "index.txt"}));
+  EXPECT_FALSE(QDir().exists("./:a.xml")) << "in the current folder";
   EXPECT_TRUE(save("a.thm", values));
   EXPECT_EQ(membersOf("a.thm"), QStringList({"a.xml", "index.txt"}));
   EXPECT_EQ(listOf("work"), QStringList("back.gif"));

@@ -143,8 +143,17 @@ TEST_F(Edit, RefusesPicturesAndWritesNothing) {
         runTool(words + QStringList{out, "--image", image}),
         (ToolRun{NotDone, "", ("thmtool " + words[0] + ": " + complaint + '\n').toStdString()}));
   EXPECT_EQ(runTool({"edit", theme, out, "--set", "Scrollbar=000000"}).status, WrongUsage);
+  for (const char* name : {"OUT.xml", "Index.txt"}) {
+    const ToolRun run = runTool({"edit", theme, out, "--image",
+                                 "Background_image=" + gif(QString("named/") + name, {101, 80})});
+    EXPECT_EQ(run.status, NotDone);
+    EXPECT_TRUE(holds(run.err, name)) << run.err;
+  }
   EXPECT_EQ(read("Out.thm"), "old");
-  EXPECT_EQ(runTool({"new", "3g", out, "--image", "Statusbar_background_image=" + jpeg}), kQuiet);
+  EXPECT_EQ(runTool({"new", "3g", out, "--image", "Statusbar_background_image=" + wide, "--image",
+                     "Statusbar_background_image=" + jpeg}),
+            kQuiet)
+      << "the later picture counts alone";
   EXPECT_EQ(membersOf("Out.thm"), "out.xml index.txt fine.jpg");
 }
 
@@ -171,7 +180,21 @@ TEST_F(Edit, WarnsOfWhatCannotBeSeenAndGoesOn) {
       {{"--image", "Title_image_large=" + gif("new/large.gif", {101, 16}, 2)},
        "Different images are named \"large.gif\"; one will be seen for all."},
       {{"--image", "Title_image_large=" + gif("new/\u7FE0.gif", {101, 16}, 2)},
-       "The image \"\u7FE0.gif\" will not be seen: no theme can hold such a name."}};
+       "The image \"\u7FE0.gif\" will not be seen: no theme can hold such a name."},
+      {{"--image", "Title_image_large=" + gif("new/\u00DF\u00A4.gif", {101, 16}, 2)},
+       "The image \"\u00DF\u00A4.gif\" will not be seen: no theme can hold such a name."},
+      {{"--tag", "Theme_name=The \"Blue\" one"},
+       "\"Theme_name\" will be read as \"The \" and not as \"The \"Blue\" one\"."},
+      {{"--tag", "Theme_name=My Theme_creator is", "--tag", "Theme_creator=Tea"},
+       "\"Theme_creator\" will be read as \"/>?\?<Theme_creator Name=\" and not as \"Tea\"."},
+      {{"--tag", "Theme_name=Text adventure"},
+       "\"Text\" will be read as \"/>?\?<Theme_created Time=\" and not as \"000000\"."},
+      {{"--tag", "Theme_name=Background_image unset"},
+       "\"Background_image\" will be read as \"/>?\?<Theme_created Time=\" and not as \"\"."},
+      {{"--tag", "Theme_name=Sony_Ericsson_theme"},
+       "The theme will be read as one of the other generation."},
+      {{"--image", "Title_image_asian=" + gif("new/a><b.gif", {101, 16}, 2)},
+       "\"Title_image_asian\" will be read as \"a>?\?<b.gif\" and not as \"a><b.gif\"."}};
   for (const auto& [words, warning] : rows) {
     const ToolRun run = runTool(QStringList{"edit", theme, path("a.thm")} + words);
     EXPECT_EQ(run, (ToolRun{AllWell, "", ("thmtool edit: " + warning + '\n').toStdString()}));
