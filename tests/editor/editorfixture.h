@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "forms/colorfield.h"
 #include "editor/editortables.h"
 #include "editor/frmeditor.h"
 #include "editor/frmeditor2.h"
 #include "editor/imagebutton.h"
+#include "forms/colorfield.h"
 #include "forms/picturebox.h"
 #include "shell/language.h"
 #include "shell/settings.h"
@@ -17,7 +17,6 @@
 #include "support/tinygif.h"
 #include "theme/archive.h"
 #include "theme/load.h"
-#include "forms/colorfield.h"
 
 #include <QApplication>
 #include <QLabel>

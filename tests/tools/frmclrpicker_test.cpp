@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmclrpicker.h"
 
+#include "forms/colorfield.h"
 #include "shell/palette.h"
 #include "shell/settings.h"
 #include "shell/state.h"
 #include "support/scripteddialogs.h"
 #include "support/tempfolder.h"
-#include "forms/colorfield.h"
 #include "tools/colorpalette.h"
 #include "tools/palettemodel.h"
 
