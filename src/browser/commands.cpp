@@ -48,16 +48,12 @@ constexpr MenuRule kMenuRules[] = {
 
 // The forms and file operations behind these are still to come.
 constexpr const char* kAwaited[] = {
-    "btnNew",
-    "btnEdit",
     "btnProperties",
     "btnExport",
     "btnCopy",
     "btnMove",
     "btnDelete",
     "btnIRSend",
-    "mnuFileItem_1",
-    "mnuFileItem_2",
     "mnuFileItem_3",
     "mnuFileItem_5",
     "mnuFileItem_6",

@@ -105,6 +105,8 @@ class frmBrowser : public QMainWindow {
   void btnViewXML_Click();
   void mnuViewItem_SourceXml();
   void btnClipboardCopy_Click();
+  void btnNew_Click();
+  void btnEdit_Click();
   void btnPreviewAll_Click();
   bool offersPaneMenu() const;
   void showPaneMenu2(std::size_t pane, QPoint place);

@@ -25,6 +25,7 @@ void frmBrowser::connectSignals() {
   connect(ui_->area, &FormArea::Paint, this, &frmBrowser::Form_Paint);
   connect(ui_->filFiles, &FileListBox::Click, this,
           [this] { run(u"filFiles_Click"_s, &frmBrowser::filFiles_Click); });
+  connect(ui_->filFiles, &FileListBox::DblClick, ui_->btnEdit, &QAbstractButton::click);
   connect(ui_->filFiles, &FileListBox::PathChange, this, &frmBrowser::filFiles_PathChange);
   connectButtons();
   connectMenus();
@@ -41,6 +42,8 @@ void frmBrowser::connectButtons() {
       {ui_->btnPrev, &frmBrowser::btnPrev_Click},
       {ui_->btnNext, &frmBrowser::btnNext_Click},
       {ui_->btnRefresh, &frmBrowser::btnRefresh_Click},
+      {ui_->btnNew, &frmBrowser::btnNew_Click},
+      {ui_->btnEdit, &frmBrowser::btnEdit_Click},
       {ui_->btnClipboardCopy, &frmBrowser::btnClipboardCopy_Click},
       {ui_->btnViewXML, &frmBrowser::btnViewXML_Click},
       {ui_->btnPreviewAll, &frmBrowser::btnPreviewAll_Click},
@@ -55,6 +58,8 @@ void frmBrowser::connectButtons() {
 void frmBrowser::connectMenus() {
   using Procedure = void (frmBrowser::*)();
   const std::pair<QAction*, Procedure> rows[] = {
+      {ui_->mnuFileItem_1, &frmBrowser::btnNew_Click},
+      {ui_->mnuFileItem_2, &frmBrowser::btnEdit_Click},
       {ui_->mnuEditItem_1, &frmBrowser::btnClipboardCopy_Click},
       {ui_->mnuEditItem_6, &frmBrowser::mnuEditItem_SelectAll},
       {ui_->mnuEditItem_7, &frmBrowser::mnuEditItem_Invert},

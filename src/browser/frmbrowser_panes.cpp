@@ -3,6 +3,7 @@
 // From the extracted theme to the screens, and the menus of the panes.
 #include "browser/frmbrowser.h"
 #include "browser/panemenus.h"
+#include "editor/editor.h"
 #include "forms/chourglass.h"
 #include "forms/dialogs.h"
 #include "forms/heldfaults.h"
@@ -108,6 +109,14 @@ void frmBrowser::btnClipboardCopy_Click() {
 
 void frmBrowser::btnPreviewAll_Click() {
   showPreviewAll(this, state_, dialogs_, world_);
+}
+
+void frmBrowser::btnNew_Click() {
+  makeTheme(this, {state_, settings_, dialogs_, world_});
+}
+
+void frmBrowser::btnEdit_Click() {
+  editTheme(this, {state_, settings_, dialogs_, world_});
 }
 
 void frmBrowser::makePaneMenus() {

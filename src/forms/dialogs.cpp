@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/dialogs.h"
 
+#include "forms/clsopensave.h"
+#include "forms/formcolors.h"
+
 #include <QApplication>
+#include <QColorDialog>
 #include <QCursor>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -23,6 +27,15 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
       break;
   }
   return QMessageBox::Information;
+}
+
+/// The filters of a request for Qt, which reads the patterns from the end of the caption.
+QStringList nameFilters(const QString& filter) {
+  const QStringList parts = filter.split(u'|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+    filters << (parts[i].endsWith(u')') ? parts[i] : u"%1 (%2)"_s.arg(parts[i], parts[i + 1]));
+  return filters;
 }
 
 constexpr qsizetype kLongestText = 20000;
@@ -57,6 +70,41 @@ void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& ti
 
 QString DesktopDialogs::chooseFolder(QWidget* owner, const QString& prompt, const QString& start) {
   return QFileDialog::getExistingDirectory(owner, prompt, start);
+}
+
+bool DesktopDialogs::chooseFile(QWidget* owner, clsOpenSave& request, FileQuestion question) {
+  QFileDialog dialog(owner, request.DialogTitle, request.InitDir);
+  const bool saving = question == FileQuestion::Save;
+  dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setDefaultSuffix(request.DefaultExt);
+  const QStringList filters = nameFilters(request.Filter);
+  dialog.setNameFilters(filters);
+  dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
+  // A pattern offers no file.
+  if (!request.FileName.contains(u'*')) dialog.selectFile(request.FileName);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  request.FileName = dialog.selectedFiles().constFirst();
+  request.FilterIndex = static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1;
+  return true;
+}
+
+std::optional<ColorValue> DesktopDialogs::chooseColor(QWidget* owner, ColorValue initial,
+                                                      CustomColors& custom) {
+  QColorDialog dialog(colorOf(initial), owner);
+  // The dialog keeps its custom colours for all programs of the desktop; ours are on loan.
+  std::array<QColor, std::tuple_size_v<CustomColors>> kept;
+  for (std::size_t i = 0; i < custom.size(); ++i) {
+    kept[i] = QColorDialog::customColor(static_cast<int>(i));
+    QColorDialog::setCustomColor(static_cast<int>(i), colorOf(custom[i]));
+  }
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  for (std::size_t i = 0; i < custom.size(); ++i) {
+    custom[i] = colorValueOf(QColorDialog::customColor(static_cast<int>(i)));
+    QColorDialog::setCustomColor(static_cast<int>(i), kept[i]);
+  }
+  if (!accepted) return {};
+  return colorValueOf(dialog.selectedColor());
 }
 
 void DesktopDialogs::beep() {

@@ -2,11 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "theme/color.h"
+
 #include <QString>
+
+#include <array>
+#include <optional>
 
 class QWidget;
 
 namespace quillane {
+
+class clsOpenSave;
+
+/// What a file is asked for.
+enum class FileQuestion { Open, Save };
+
+/// The sixteen colours of a person's own in the system's colour dialog.
+using CustomColors = std::array<ColorValue, 16>;
 
 /// The icon of a message box.
 enum class MessageIcon { Stop, Warning, Information };
@@ -22,6 +35,13 @@ class Dialogs {
                        const QString& text) = 0;
   /// Asks for a folder, beginning at `start`; empty when the person cancels.
   virtual QString chooseFolder(QWidget* owner, const QString& prompt, const QString& start) = 0;
+  /// Shows a file dialog as `request` has it and leaves the answer there; false when the person
+  /// cancels.
+  virtual bool chooseFile(QWidget* owner, clsOpenSave& request, FileQuestion question) = 0;
+  /// The system's colour dialog, beginning with `initial`; the person may change the custom
+  /// colours. Nothing when the person cancels.
+  virtual std::optional<ColorValue> chooseColor(QWidget* owner, ColorValue initial,
+                                                CustomColors& custom) = 0;
   /// The system's beep.
   virtual void beep() = 0;
 };
@@ -40,6 +60,9 @@ class DesktopDialogs : public Dialogs {
   void message(QWidget* owner, MessageIcon icon, const QString& title,
                const QString& text) override;
   QString chooseFolder(QWidget* owner, const QString& prompt, const QString& start) override;
+  bool chooseFile(QWidget* owner, clsOpenSave& request, FileQuestion question) override;
+  std::optional<ColorValue> chooseColor(QWidget* owner, ColorValue initial,
+                                        CustomColors& custom) override;
   void beep() override;
 };
 

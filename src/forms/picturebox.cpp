@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/picturebox.h"
 
+#include "forms/formcolors.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -12,10 +14,6 @@ namespace {
 constexpr int kBorder = 2;
 
 }  // namespace
-
-ColorValue colorValueOf(const QColor& color) {
-  return static_cast<ColorValue>(color.red() | color.green() << 8 | color.blue() << 16);
-}
 
 PictureBox::PictureBox(QWidget* parent) : QFrame(parent) {
   setFrameStyle(QFrame::WinPanel | QFrame::Sunken);

@@ -4,15 +4,11 @@
 
 #include "preview/surface.h"
 
-#include <QColor>
 #include <QFrame>
 
 #include <memory>
 
 namespace quillane {
-
-/// The colour value of a colour of the desktop.
-ColorValue colorValueOf(const QColor& color);
 
 /// A picture box with a sunken border of two pixels: shows a surface, pixel for pixel, scaled by
 /// whole device pixels on a dense screen.

@@ -6,17 +6,17 @@ namespace quillane {
 
 using namespace Qt::StringLiterals;
 
-clsVistrel::clsVistrel(PreviewWorld& world) : world_(&world) {
-  DefaultColors();
+clsVistrel::clsVistrel(PreviewWorld& world) : PreviewEngine(Generation::Two, world) {
+  clsVistrel::DefaultColors();
 }
 
 void clsVistrel::takeTheme(const ThemeValues& values) {
-  values_ = values;
+  PreviewEngine::takeTheme(values);
   StandbyType = image(gen2::BackgroundImage).isEmpty() ? 0 : 1;
 }
 
 void clsVistrel::DefaultColors() {
-  values_.reset();
+  PreviewEngine::DefaultColors();
   StandbyType = 0;
   PopupPaddingLeftTop = u"3 5"_s;
 }

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "preview/bounded.h"
-#include "theme/values.h"
+#include "preview/previewengine.h"
 
 #include <QDate>
 #include <QString>
@@ -11,43 +10,22 @@
 namespace quillane {
 
 class PaintSteps;
-class PreviewWorld;
-class Surface;
 
-/// The preview engine of generation 2: the values of a theme, the simulated state of the phone, and
-/// the painting of its screens. It knows nothing of archives and XML.
-class clsVistrel {
+/// The preview engine of generation 2.
+class clsVistrel : public PreviewEngine {
  public:
-  /// Starts with the default colours and no images. `world` outlives the engine.
   explicit clsVistrel(PreviewWorld& world);
 
-  /// Where the next Draw operation paints; set before each. The surface outlives the drawing.
-  void setSurface(Surface& surface) { surface_ = &surface; }
-
-  const QString& color(gen2::Color which) const { return values_.color(which); }
-  /// An empty text stores the colour's default.
-  void setColor(gen2::Color which, const QString& rgb) { values_.setColor(which, rgb); }
-  const QString& image(gen2::Image which) const { return values_.image(which); }
-  void setImage(gen2::Image which, const QString& path) { values_.setImage(which, path); }
-
-  /// All colours and images.
-  const ThemeValues& values() const { return values_; }
-  /// Takes over a loaded theme of generation 2; `StandbyType` follows the background image.
-  void takeTheme(const ThemeValues& values);
-  /// The reset between two themes: default colours, no images, plain standby, normal padding.
-  void DefaultColors();
+  /// `StandbyType` follows the background image.
+  void takeTheme(const ThemeValues& values) override;
+  /// Also brings back the plain standby and the normal padding.
+  void DefaultColors() override;
 
   int StandbyType = 0;          ///< 0 the standby has no background image, 1 it has one.
   QString PopupPaddingLeftTop;  ///< Left and top padding in pixels, a blank between.
   DefaultedText CalendarDateFormat{QStringLiteral("mmm yyyy")};
-  QString TimeFormat;
-  QString OperatorName;
-  Bounded<0, 5, 5> SignalStrength;
-  Bounded<0, 10, 10> BatteryLevel;
-  Bounded<0, 1, 1> GPRSRange;
   Bounded<1, 2, 1> LineIcon;
   Bounded<0, 9, 5> DesktopIcon;
-  bool ShowGPRSIcon = false;
   bool ShowLineIcon = false;
   bool ShowIRIcon = false;
 
@@ -103,10 +81,6 @@ class clsVistrel {
   /// The marked cell of the calendar and, in the title bar, its day and week; leaves the font of
   /// its number behind.
   void paintMark(PaintSteps& steps, const QDate& day);
-
-  PreviewWorld* world_;
-  Surface* surface_ = nullptr;
-  ThemeValues values_{Generation::Two};
 };
 
 }  // namespace quillane

@@ -10,14 +10,6 @@ namespace quillane {
 
 using namespace gen3g;
 
-clsVistrel3G::clsVistrel3G(PreviewWorld& world) : world_(&world) {
-  DefaultColors();
-}
-
-void clsVistrel3G::DefaultColors() {
-  values_.reset();
-}
-
 bool clsVistrel3G::isInForce(gen3g::Image which) const {
   return DrawImages && !image(which).isEmpty();
 }

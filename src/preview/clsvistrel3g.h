@@ -2,50 +2,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "preview/bounded.h"
 #include "preview/modapigraphics.h"
-#include "theme/values.h"
+#include "preview/previewengine.h"
 
 #include <QDate>
 #include <QString>
 
 namespace quillane {
 
-class PreviewWorld;
-class Surface;
-
-/// The preview engine of 3G: the values of a theme, the simulated state of the phone, and the
-/// painting of its screens. It never reads a theme file.
-class clsVistrel3G {
+/// The preview engine of 3G.
+class clsVistrel3G : public PreviewEngine {
  public:
-  /// Starts with the default colours and no images. `world` outlives the engine.
-  explicit clsVistrel3G(PreviewWorld& world);
-
-  /// Where the next Draw operation paints; set before each. The surface outlives the drawing.
-  void setSurface(Surface& surface) { surface_ = &surface; }
-
-  const QString& color(gen3g::Color which) const { return values_.color(which); }
-  void setColor(gen3g::Color which, const QString& rgb) { values_.setColor(which, rgb); }
-  const QString& image(gen3g::Image which) const { return values_.image(which); }
-  void setImage(gen3g::Image which, const QString& path) { values_.setImage(which, path); }
-
-  /// All colours and images.
-  const ThemeValues& values() const { return values_; }
-  /// Takes over a loaded theme of 3G.
-  void takeTheme(const ThemeValues& values) { values_ = values; }
-  /// Default colours, no images.
-  void DefaultColors();
+  explicit clsVistrel3G(PreviewWorld& world) : PreviewEngine(Generation::ThreeG, world) {}
 
   /// Whether image slots paint their images; off, they paint their colours.
   bool DrawImages = false;
-  QString OperatorName;
-  QString TimeFormat;
   QString DateFormat;
-  Bounded<0, 5, 5> SignalStrength;
-  Bounded<0, 10, 10> BatteryLevel;
-  Bounded<0, 1, 1> GPRSRange;
   Bounded<1, 12, 5> DesktopIcon;
-  bool ShowGPRSIcon = false;
 
   // Texts of the screens, most of them lists with "|" between their entries.
   QString StandbySoftkeyText;
@@ -122,9 +95,6 @@ class clsVistrel3G {
   /// the left key disabled and the right one pressed.
   void DrawSoftkeyBar(const QString& text, int mode);
 
-  PreviewWorld* world_;
-  Surface* surface_ = nullptr;
-  ThemeValues values_{Generation::ThreeG};
   FontSpec font_{QStringLiteral("MS Sans Serif"), 0, true, 8, 0};  ///< Lives across operations.
 };
 

@@ -19,7 +19,7 @@ QStringList matches(const QString& pattern) {
   QStringList paths;
   const auto kinds = QDir::Files | QDir::Hidden | QDir::System;
   for (const QString& entry : folder.entryList({name}, kinds))
-    paths << folder.filePath(entry);
+    paths << withSeparator(folder.path()) + entry;
   return paths;
 }
 

@@ -147,6 +147,7 @@ bool Main(PublicState& state, const SettingsStore& settings, const Places& place
   readSwitches(state, settings, report);
   state.IViewPresent = pictureWritersPresent();
   setLanguageFiles(state, settings, programFolder);
+  state.PalettesFolder = programFolder + "Palettes/"_L1;
   screen.setStatus(u"Status: Initializing preview engines..."_s);
   makeEngines(state, settings, world, report);
   showSenderIcon(state, settings, places.systemFolder, report);

@@ -6,6 +6,7 @@
 #include "preview/clsvistrel3g.h"
 #include "theme/values.h"
 
+#include <QObject>
 #include <QString>
 
 #include <memory>
@@ -31,6 +32,7 @@ struct PublicState {
   QString ConfigFolder3G;      ///< Language files of 3G.
   QString LanguageFile2;       ///< Bare name of the language file of generation 2.
   QString LanguageFile3G;      ///< Bare name of the language file of 3G.
+  QString PalettesFolder;      ///< Where palette files are looked for.
   QString UserPalette;         ///< Path of the user's palette file, or empty.
 
   bool DisableETT = false;       ///< The writer leaves out the authoring tags.
@@ -54,9 +56,15 @@ struct PublicState {
   ImageStates ImageState{};
   int SelectedIndex = -1;           ///< List index of the selected theme, -1 for none.
   std::uint8_t ThemeLoadCount = 0;  ///< Counts the loads between two battery steps.
-  std::uint8_t CapturePane = 0;     ///< The preview pane that was right-clicked last, from 1.
-  bool ShiftDown = false;           ///< State of the key at the last key event of a form.
+  int ImageSizeW = 0;               ///< Size in pixels of the picture file that was measured last.
+  int ImageSizeH = 0;
+  std::int32_t PickerColorIn = 0;    ///< The colour handed to the colour picker.
+  std::int32_t PickerColorOut = -1;  ///< Its answer; -1 for cancelled.
+  std::uint8_t CapturePane = 0;      ///< The preview pane that was right-clicked last, from 1.
+  bool ShiftDown = false;            ///< State of the key at the last key event of a form.
   bool CtrlDown = false;
+
+  std::unique_ptr<QObject> ColorPicker;  ///< The picker's form, once it was used.
 };
 
 }  // namespace quillane

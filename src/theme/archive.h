@@ -45,8 +45,8 @@ ThemeError archiveError(int code, const QString& fileName);
 ThemeError missingXmlError(const QString& fileName);
 
 /// Packs files into a new archive beside `themePath` and renames it over it. Members are the bare
-/// file names in lower case with their files' times, in the order given. Throws `Fault`; the old
-/// archive is then untouched.
+/// file names in lower case with their files' times, in the order given. Throws `Fault`, also for
+/// what the reader would refuse as too much; the old archive is then untouched.
 void packArchive(const QString& themePath, const QStringList& files);
 
 /// The images that a saved theme packs: those of the filled slots in their order. Generation 2

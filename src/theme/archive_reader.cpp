@@ -137,9 +137,8 @@ class Walk {
   }
 
   bool isWithinLimits(const ArchiveMember& member) {
-    const bool isXml = member.name.endsWith(".xml"_L1, Qt::CaseInsensitive);
-    const qint64 limit = isXml ? ArchiveLimits::kXmlMember : ArchiveLimits::kMember;
-    if (++headers_ > ArchiveLimits::kHeaders || member.size < 0 || member.size > limit)
+    if (++headers_ > ArchiveLimits::kHeaders || member.size < 0 ||
+        member.size > ArchiveLimits::ofMember(member.name))
       return false;
     total_ += member.size;
     return total_ <= ArchiveLimits::kTotal;
@@ -159,6 +158,10 @@ class Walk {
 };
 
 }  // namespace
+
+qint64 ArchiveLimits::ofMember(const QString& name) {
+  return name.endsWith(".xml"_L1, Qt::CaseInsensitive) ? kXmlMember : kMember;
+}
 
 ArchiveResult readArchive(QIODevice& device, MemberSink& sink) {
   return Walk(device, sink).run();

@@ -31,6 +31,9 @@ struct ArchiveLimits {
   static constexpr qint64 kMember = 16 << 20;
   static constexpr qint64 kXmlMember = 1 << 20;
   static constexpr qint64 kTotal = 64 << 20;
+
+  /// The most bytes of a member of this name.
+  static qint64 ofMember(const QString& name);
 };
 
 /// Takes the members of an archive one after another. Each call answers `Success` or the code with

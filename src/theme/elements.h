@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QLatin1String>
+#include <QSize>
 #include <QStringView>
 
 #include <cstdint>
@@ -16,13 +17,13 @@ enum class Generation : std::uint8_t { Two = 1, ThreeG = 2 };
 /// Indexes of generation 2's colours and image slots: the engine properties, in writer order.
 namespace gen2 {
 enum Color : int {
-#define QUILLANE_COLOR(property, element, standard) property,
-#define QUILLANE_IMAGE(property, element, state, loadRank, readAfter, words)
+#define QUILLANE_COLOR(property, ...) property,
+#define QUILLANE_IMAGE(...)
 #include "theme/generation2.def"
 };
 enum Image : int {
-#define QUILLANE_COLOR(property, element, standard)
-#define QUILLANE_IMAGE(property, element, state, loadRank, readAfter, words) property,
+#define QUILLANE_COLOR(...)
+#define QUILLANE_IMAGE(property, ...) property,
 #include "theme/generation2.def"
 };
 }  // namespace gen2
@@ -30,13 +31,13 @@ enum Image : int {
 /// The same for 3G.
 namespace gen3g {
 enum Color : int {
-#define QUILLANE_COLOR(property, element, standard) property,
-#define QUILLANE_IMAGE(property, element, state, loadRank, readAfter, words)
+#define QUILLANE_COLOR(property, ...) property,
+#define QUILLANE_IMAGE(...)
 #include "theme/generation3g.def"
 };
 enum Image : int {
-#define QUILLANE_COLOR(property, element, standard)
-#define QUILLANE_IMAGE(property, element, state, loadRank, readAfter, words) property,
+#define QUILLANE_COLOR(...)
+#define QUILLANE_IMAGE(property, ...) property,
 #include "theme/generation3g.def"
 };
 }  // namespace gen3g
@@ -48,6 +49,9 @@ struct ColorElement {
   QLatin1String standard;  ///< RRGGBB that `DefaultColors` assigns.
 };
 
+/// How the size of a slot binds a picture that is chosen for it.
+enum class SizeRule : std::uint8_t { Exact, AtMost };
+
 /// An image slot of a theme: `<element Source="file.gif"/>`.
 struct ImageElement {
   QLatin1String element;       ///< Name on the wire.
@@ -55,7 +59,10 @@ struct ImageElement {
   int state;                   ///< Index in `ImageState`, 0 to 12.
   int loadRank;                ///< Place among the images when a theme is read.
   int readAfter;               ///< Index of the colour after which it is read.
+  SizeRule rule;               ///< How `size` binds a picture.
   QLatin1String missingWords;  ///< Begin of the message for a file that is not there.
+  QSize size;                  ///< In pixels.
+  QLatin1String word;  ///< What messages about a chosen picture call the slot: "title small".
 };
 
 /// All that a generation's XML can hold. Rows stand in the order in which they are written.
@@ -66,6 +73,8 @@ struct ThemeSchema {
   std::span<const ImageElement> images;
   /// What an empty colour becomes in the engine: its default (generation 2), or nothing (3G).
   bool emptyColorTakesDefault;
+  /// Whether an image may be a JPEG; a GIF always may.
+  bool takesJpeg;
 };
 
 /// The schema of a generation; it lives as long as the program.

@@ -20,6 +20,9 @@ enum class FaultNumber : int {
   NoPermission = 70,
   ResourceNotFound = 326,
   BadPicture = 481,
+  InvalidPaletteFile = static_cast<int>(0x80040001),
+  InvalidColorCount = static_cast<int>(0x80040002),
+  InvalidPalette = static_cast<int>(0x80040003),
   DialogCancelled = 32755,  ///< A common dialog was cancelled; passed over in silence.
 };
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "theme/archive.h"
+#include "theme/archive_reader.h"
 #include "theme/codepage.h"
 #include "theme/fault.h"
 #include "theme/files.h"
@@ -11,6 +12,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace quillane {
@@ -37,6 +39,33 @@ QString nameInTheme(const QString& file) {
   return QFileInfo(file).fileName().toLower();
 }
 
+/// Refuses the file with which an archive would be one that our reader does not take.
+class Admission {
+ public:
+  void admit(const QString& file) {
+    const qint64 size = fileSize(file);
+    const qint64 limit = ArchiveLimits::ofMember(nameInTheme(file));
+    if (size > limit)
+      refuse(u"\"%1\" has %2 bytes, and such a file of a theme may have %3."_s, file, size, limit);
+    if ((total_ += size) > ArchiveLimits::kTotal)
+      refuse(u"With \"%1\" the files of the theme have %2 bytes, and they may have %3."_s, file,
+             total_, ArchiveLimits::kTotal);
+    if (++count_ > ArchiveLimits::kHeaders)
+      refuse(u"With \"%1\" the theme has %2 files, and it may have %3."_s, file, count_,
+             ArchiveLimits::kHeaders);
+  }
+
+ private:
+  [[noreturn]] static void refuse(const QString& words, const QString& file, qint64 number,
+                                  qint64 limit) {
+    throw Fault(FaultNumber::BadCall,
+                words.arg(file, QString::number(number), QString::number(limit)));
+  }
+
+  qint64 total_ = 0;
+  int count_ = 0;
+};
+
 Entry makeEntry(const QString& file, qint64 size) {
   Entry entry(archive_entry_new());
   archive_entry_copy_pathname(entry.get(), toCodePage(nameInTheme(file)).constData());
@@ -60,13 +89,19 @@ bool writeMember(archive* writer, archive_entry* entry, const QByteArray& bytes)
          archive_write_finish_entry(writer) == ARCHIVE_OK;
 }
 
+bool isAscii(QByteArrayView name) {
+  return std::all_of(name.begin(), name.end(),
+                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 /// The blocks of one member without end blocks, or nothing where the flavour cannot hold it.
 QByteArray memberBlocks(Flavour flavour, archive_entry* entry, const QByteArray& bytes) {
   QByteArray tar;
   const std::unique_ptr<archive, WriterRelease> writer(archive_write_new());
   if (flavour(writer.get()) != ARCHIVE_OK) return {};
   // Only records have a character set; the plain flavour refuses to be told of one.
-  archive_write_set_options(writer.get(), "hdrcharset=BINARY");
+  if (!isAscii(archive_entry_pathname(entry)))
+    archive_write_set_options(writer.get(), "hdrcharset=BINARY");
   archive_write_set_bytes_per_block(writer.get(), 0);
   archive_write_set_bytes_in_last_block(writer.get(), 1);
   const bool isOpen =
@@ -104,8 +139,11 @@ bool repeatsItsPartner(const ThemeValues& values, int slot) {
 
 void packArchive(const QString& themePath, const QStringList& files) {
   QByteArray tar;
-  for (const QString& file : files)
+  Admission admission;
+  for (const QString& file : files) {
+    admission.admit(file);
     tar += packedMember(file);
+  }
   tar.append(kEndBlocks, '\0');
   saveFile(themePath, tar);
 }

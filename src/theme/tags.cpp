@@ -4,9 +4,14 @@
 
 #include "theme/parsexml.h"
 
+#include <QDateTime>
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace quillane {
+
+using namespace Qt::StringLiterals;
 
 ThemeTagTexts readThemeTags(const QString& themeXml, const FaultReporter& report) {
   ThemeTagTexts texts;
@@ -14,6 +19,10 @@ ThemeTagTexts readThemeTags(const QString& themeXml, const FaultReporter& report
     return ParseXML(QString(tag.element), themeXml, report);
   });
   return texts;
+}
+
+QString tagTime(const QString& path) {
+  return QFileInfo(path).lastModified().toString(u"d.M.yyyy HH:mm"_s);
 }
 
 }  // namespace quillane

@@ -28,6 +28,9 @@ inline constexpr std::array<ThemeTag, 4> kThemeTags{{
 /// The texts of the tags, in the order of `kThemeTags`; empty for one that is not there.
 using ThemeTagTexts = std::array<QString, kThemeTags.size()>;
 
+/// The time of a file as the tags tell it: "9.9.2001 03:46".
+QString tagTime(const QString& path);
+
 /// Reads all tags from the text of a theme.
 ThemeTagTexts readThemeTags(const QString& themeXml, const FaultReporter& report);
 

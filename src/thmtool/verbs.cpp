@@ -7,7 +7,8 @@ namespace quillane {
 namespace {
 
 constexpr const Verb* kVerbs[] = {
-    &kRenderVerb, &kInfoVerb, &kXmlVerb, &kUnpackVerb, &kPackVerb, &kThumbnailVerb,
+    &kRenderVerb, &kInfoVerb, &kXmlVerb,  &kUnpackVerb,
+    &kPackVerb,   &kNewVerb,  &kEditVerb, &kThumbnailVerb,
 };
 
 }  // namespace

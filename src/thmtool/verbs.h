@@ -39,6 +39,8 @@ extern const Verb kInfoVerb;
 extern const Verb kXmlVerb;
 extern const Verb kUnpackVerb;
 extern const Verb kPackVerb;
+extern const Verb kNewVerb;
+extern const Verb kEditVerb;
 extern const Verb kThumbnailVerb;
 
 /// All verbs, in the order of the help.

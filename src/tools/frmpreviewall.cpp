@@ -4,6 +4,7 @@
 
 #include "forms/chourglass.h"
 #include "forms/dialogs.h"
+#include "forms/formcolors.h"
 #include "forms/heldfaults.h"
 #include "forms/paintscreen.h"
 #include "preview/modapigraphics.h"

@@ -27,6 +27,7 @@ void runSeeds(const QString& name, bool (*holds)(QByteArrayView)) {
 TEST(FuzzCorpus, Holds) {
   runSeeds("archive", archiveHolds);
   runSeeds("parsexml", parseXmlHolds);
+  runSeeds("palette", paletteHolds);
 }
 
 }  // namespace

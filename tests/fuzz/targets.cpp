@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/targets.h"
 
+#include "shell/palette.h"
 #include "theme/archive_reader.h"
 #include "theme/codepage.h"
 #include "theme/elements.h"
+#include "theme/fault.h"
 #include "theme/load.h"
 #include "theme/parsexml.h"
 
@@ -73,6 +75,19 @@ bool parseXmlHolds(QByteArrayView bytes) {
   return std::all_of(colors.begin(), colors.end(), [&xml](const ColorElement& color) {
     return xml.contains(ParseXML(QString(color.element), xml, [](const Fault&) {}));
   });
+}
+
+bool paletteHolds(QByteArrayView bytes) {
+  try {
+    const Palette palette = readPalette(bytes);
+    return !palette.empty() && palette.size() <= kMostPaletteColors &&
+           std::all_of(palette.begin(), palette.end(),
+                       [](ColorValue color) { return color <= 0xFFFFFF; });
+  } catch (const Fault& fault) {
+    return fault.number() == FaultNumber::InvalidPaletteFile ||
+           fault.number() == FaultNumber::InvalidColorCount ||
+           fault.number() == FaultNumber::InvalidPalette;
+  }
 }
 
 }  // namespace quillane

@@ -12,4 +12,7 @@ bool archiveHolds(QByteArrayView bytes);
 /// Looks up every element in bytes as a theme's text; the same question.
 bool parseXmlHolds(QByteArrayView bytes);
 
+/// Reads bytes as a palette; the same question.
+bool paletteHolds(QByteArrayView bytes);
+
 }  // namespace quillane

@@ -40,6 +40,7 @@ TEST_F(Files, DeletesEveryFileAndNoFolder) {
   write("work/a.gif", "x");
   write("work/noending", "x");
   write("work/.hidden", "x");
+  write("work/:colon", "x");
   write("work/new/kept", "x");
   DeleteFiles(path("work/*.*"));
   EXPECT_EQ(listOf("work"), QStringList{"new"});

@@ -61,6 +61,7 @@ TEST_F(Start, RunsItsStepsInOrder) {
                                        "Status: Loading browser...", "browser", "no splash"}));
   EXPECT_EQ(state.AppTempFolder, home("temp/"));
   EXPECT_EQ(state.ConfigFolder2, home("Vistrel Config/2/"));
+  EXPECT_EQ(state.PalettesFolder, home("Palettes/"));
   EXPECT_EQ(state.LanguageFile3G, "english.lng");
   EXPECT_TRUE(state.IncludeIndexFile && state.CompressXMLCode && state.SmartLAImage);
   EXPECT_FALSE(state.DisableETT);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "forms/clsopensave.h"
 #include "forms/dialogs.h"
 
 #include <QList>
@@ -17,34 +18,77 @@ namespace quillane {
 class ScriptedDialogs : public Dialogs {
  public:
   ~ScriptedDialogs() override {
-    for (const auto& [text, answer] : script_)
-      ADD_FAILURE() << "not asked: " << text.toStdString();
+    for (const Step& step : script_)
+      ADD_FAILURE() << "not asked: " << step.text.toStdString();
   }
 
   int beeps = 0;
 
   /// With a "*" at its end only the part of the text before that counts.
-  void expectMessage(const QString& text) { script_.push_back({text, {}}); }
+  void expectMessage(const QString& text) { script_.push_back({"message", text}); }
   void expectFolder(const QString& prompt, const QString& answer) {
-    script_.push_back({prompt, answer});
+    script_.push_back({"folder", prompt, answer});
   }
 
-  void message(QWidget*, MessageIcon, const QString&, const QString& text) override { take(text); }
+  /// A file dialog, told by its title; an empty path cancels it. Afterwards `lastFile` holds how
+  /// the dialog was filled.
+  void expectFile(const QString& title, const QString& path, int filterIndex = 1) {
+    script_.push_back({"file", title, path, filterIndex});
+  }
+  /// The colour dialog, told by the colour it begins with as RRGGBB; an empty answer cancels it.
+  void expectColor(const QString& initial, const QString& answer) {
+    script_.push_back({"colour", initial, answer});
+  }
+
+  /// A file dialog's fields before its answer.
+  struct FileFields {
+    FileQuestion question;
+    QString folder, fileName, extension, filter;
+  };
+  FileFields lastFile{};
+  CustomColors customColors{};  ///< What the last colour dialog was given.
+
+  void message(QWidget*, MessageIcon, const QString&, const QString& text) override {
+    take("message", text);
+  }
   QString chooseFolder(QWidget*, const QString& prompt, const QString&) override {
-    return take(prompt);
+    return take("folder", prompt).answer;
+  }
+  bool chooseFile(QWidget*, clsOpenSave& request, FileQuestion question) override {
+    lastFile = {question, request.InitDir, request.FileName, request.DefaultExt, request.Filter};
+    const Step step = take("file", request.DialogTitle);
+    if (step.answer.isEmpty()) return false;
+    request.FileName = step.answer;
+    request.FilterIndex = step.filterIndex;
+    return true;
+  }
+  std::optional<ColorValue> chooseColor(QWidget*, ColorValue initial,
+                                        CustomColors& custom) override {
+    customColors = custom;
+    const QString answer = take("colour", ColorToHtml(QString::number(initial))).answer;
+    if (answer.isEmpty()) return {};
+    return colorValueOf(answer);
   }
   void beep() override { ++beeps; }
 
  private:
-  QString take(const QString& text) {
-    const auto [expected, answer] =
-        script_.isEmpty() ? std::pair<QString, QString>() : script_.takeFirst();
-    if (!expected.endsWith('*') ? text != expected : !text.startsWith(expected.chopped(1)))
-      ADD_FAILURE() << "unexpected dialog: " << text.toStdString();
-    return answer;
+  struct Step {
+    QString kind;
+    QString text;
+    QString answer{};
+    int filterIndex = 1;
+  };
+
+  Step take(const QString& kind, const QString& text) {
+    const Step step = script_.isEmpty() ? Step{} : script_.takeFirst();
+    const bool fits =
+        step.kind == kind &&
+        (step.text.endsWith('*') ? text.startsWith(step.text.chopped(1)) : text == step.text);
+    if (!fits) ADD_FAILURE() << "unexpected " << kind.toStdString() << ": " << text.toStdString();
+    return step;
   }
 
-  QList<std::pair<QString, QString>> script_;
+  QList<Step> script_;
 };
 
 }  // namespace quillane

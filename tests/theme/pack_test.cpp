@@ -79,6 +79,7 @@ TEST_F(Pack, GivesRecordsToTheMemberThatNeedsThemAlone) {
                               makeFile(umlauts, "3"), makeFile("last.gif", "4")});
   EXPECT_EQ(membersOf("t.thm"), QStringList({name100, name101, "old.gif", umlauts, "last.gif"}));
   EXPECT_EQ(read("t.thm").count("ustar"), 5 + 3);
+  EXPECT_EQ(read("t.thm").count("hdrcharset=BINARY"), 1) << "of the name beyond ASCII";
   extractArchive(path("t.thm"), makeFolder("out"));
   EXPECT_EQ(QFileInfo(path("out/old.gif")).lastModified().toSecsSinceEpoch(), -1'000'000);
   EXPECT_EQ(read("out/" + umlauts), "3");
@@ -102,6 +103,34 @@ TEST_F(Pack, LeavesTheOldArchiveWhereItFails) {
   EXPECT_EQ(read("t.thm"), "old");
   EXPECT_EQ(listOf(""), QStringList({"good.gif", "secret.gif", "t.thm"}));
   EXPECT_EQ(faultNumberOf([&] { packArchive(path("none/t.thm"), {good}); }), 53);
+}
+
+TEST_F(Pack, TakesAsMuchAsTheReader) {
+  const auto sized = [this](const QString& name, qint64 size) {
+    EXPECT_TRUE(QFile::resize(makeFile(name, ""), size));
+    return path(name);
+  };
+  const QString small = makeFile("small.gif", "s");
+  const QString large = sized("large.gif", 16 << 20);
+  const QString first = makeFile("first.gif", "f");
+  const std::tuple<const char*, QStringList, QString, QString> rows[] = {
+      {"member", {large}, sized("larger.gif", (16 << 20) + 1), "may have 16777216."},
+      {"XML", {sized("A.XML", 1 << 20)}, sized("b.Xml", (1 << 20) + 1), "may have 1048576."},
+      {"all", {large, large, large, large}, small, "may have 67108864."},
+      {"number", QStringList(1000, first), small, "may have 1000."}};
+  for (const auto& [what, enough, more, limit] : rows) {
+    EXPECT_EQ(packNumber(enough), 0) << what;
+    const QByteArray before = read("t.thm");
+    EXPECT_EQ(listArchive(path("t.thm")).code, 0) << what;
+    try {
+      packArchive(path("t.thm"), enough + QStringList{more});
+      ADD_FAILURE() << what;
+    } catch (const Fault& fault) {
+      EXPECT_TRUE(fault.description().contains('"' + more + '"')) << fault.what();
+      EXPECT_TRUE(fault.description().endsWith(limit)) << fault.what();
+    }
+    EXPECT_TRUE(read("t.thm") == before) << what;
+  }
 }
 
 TEST_F(Pack, TellsWhenTheDiskIsFull) {

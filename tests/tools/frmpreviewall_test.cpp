@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmpreviewall.h"
 
+#include "forms/formcolors.h"
 #include "forms/picturebox.h"
 #include "preview/screens.h"
 #include "support/probes.h"

@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The source of the theme and its files.
+#include "editor/editorform.h"
+#include "forms/clsopensave.h"
+#include "forms/dialogs.h"
+#include "preview/previewengine.h"
+#include "shell/files.h"
+#include "shell/state.h"
+#include "theme/codepage.h"
+#include "theme/files.h"
+#include "theme/parsexml.h"
+#include "theme/save.h"
+#include "theme/tags.h"
+#include "theme/writer.h"
+#include "ui_editorform.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include <cstdio>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kNewThemeFile = u"New Theme.thm"_s;
+constexpr auto kSourceFilter = "XML file (*.xml)|*.xml|Text file (*.txt)|*.txt"_L1;
+
+}  // namespace
+
+QString EditorForm::GenerateXml() const {
+  if (desk_.state.DisableETT) return generateXml(engine_.values(), {});
+  return generateXml(engine_.values(),
+                     {ui_->txtThemeName->text(), ui_->txtThemeAuthor->text(),
+                      ui_->txtThemeModifiedBy->text(), ui_->lblThemeCreated->text()});
+}
+
+void EditorForm::btnSave_Click(int index) {
+  const bool isNew = !EditorThemeFile.contains(u'/');
+  QString path = EditorThemeFile;
+  if (isNew || index == 1) {
+    clsOpenSave dialog(desk_.dialogs);
+    dialog.DialogTitle = index == 1 ? u"Save theme file as"_s : u"Save theme file"_s;
+    dialog.InitDir = desk_.state.ThemesFolder;
+    dialog.FileName = isNew ? kNewThemeFile : SplitPath(EditorThemeFile, PathPart::Name);
+    dialog.DefaultExt = u".thm"_s;
+    dialog.Filter = u"Theme files (*.thm)|*.thm"_s;
+    dialog.ShowSave(this);
+    path = dialog.FileName;
+  }
+  const ThemeSave save{.themePath = themeSavePath(path),
+                       .edited = engine_.values(),
+                       .shown = &shown_.values(),
+                       .xml = GenerateXml(),
+                       .includeIndex = desk_.state.IncludeIndexFile,
+                       .compress = desk_.state.CompressXMLCode,
+                       .workFolder = desk_.state.AppTempFolder};
+  // No box, by design; whoever started the program in a terminal is told.
+  saveTheme(save, [](const Fault& fault) { std::fprintf(stderr, "quillane: %s\n", fault.what()); });
+  EditorThemeFile = save.themePath;
+  showCaption();
+}
+
+void EditorForm::btnRefresh_Click() {
+  ui_->txtXML->setPlainText(GenerateXml());
+}
+
+void EditorForm::btnCopy_Click() {
+  btnRefresh_Click();
+  QGuiApplication::clipboard()->setText(GenerateXml());
+}
+
+void EditorForm::btnExport_Click() {
+  clsOpenSave dialog(desk_.dialogs);
+  dialog.DialogTitle = u"Export the source XML code"_s;
+  dialog.InitDir = desk_.state.ExportFolder;
+  dialog.FileName = u"*.xml"_s;
+  dialog.Filter = kSourceFilter;
+  dialog.ShowSave(this);
+  desk_.state.ExportFolder = SplitPath(dialog.FileName, PathPart::Folder);
+  btnRefresh_Click();
+  saveFile(dialog.FileName, toCodePage(GenerateXml()));
+}
+
+void EditorForm::btnImport_Click() {
+  clsOpenSave dialog(desk_.dialogs);
+  dialog.DialogTitle = u"Import the source XML code from a file"_s;
+  dialog.InitDir = desk_.state.ImportFolder;
+  dialog.FileName = u"*.xml"_s;
+  dialog.Filter = kSourceFilter;
+  dialog.ShowOpen(this);
+  desk_.state.ImportFolder = SplitPath(dialog.FileName, PathPart::Folder);
+  if (!takeSource(fromCodePage(readFile(dialog.FileName))))
+    desk_.dialogs.message(
+        this, MessageIcon::Warning, QString(),
+        u"File \"%1\" does not contain the right XML code."_s.arg(dialog.FileName));
+}
+
+void EditorForm::btnPaste_Click() {
+  const QMimeData* clip = QGuiApplication::clipboard()->mimeData();
+  if (!clip || !clip->hasText())
+    desk_.dialogs.message(this, MessageIcon::Warning, QString(), u"No source XML code found."_s);
+  else if (!takeSource(clip->text()))
+    desk_.dialogs.message(this, MessageIcon::Warning, QString(),
+                          u"The Clipboard does not contain the right XML code."_s);
+}
+
+bool EditorForm::takeSource(const QString& xml) {
+  if (!xml.contains(QLatin1String(kind_.root), Qt::CaseInsensitive)) return false;
+  applyXmlToEngine(xml);
+  ColorsToControls();
+  DrawPreviews();
+  ui_->txtXML->setPlainText(GenerateXml());
+  CheckColorContrast();
+  return true;
+}
+
+void EditorForm::applyXmlToEngine(const QString& xml) {
+  ThemeValues values = engine_.values();
+  const ThemeSchema& schema = values.schema();
+  for (std::size_t color = 0; color < schema.colors.size(); ++color)
+    values.setColor(static_cast<int>(color),
+                    ParseXML(QString(schema.colors[color].element), xml, parseFaults_.reporter()));
+  for (int slot = 0; slot < slotCount(); ++slot)
+    values.setImage(slot, {});
+  engine_.takeTheme(values);
+}
+
+}  // namespace quillane

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/imagerules.h"
+
+#include "preview/picture.h"
+#include "shell/files.h"
+#include "theme/fault.h"
+#include "theme/files.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The logical screen in the first bytes of a GIF; nothing where they are of another file.
+std::optional<QSize> gifScreen(const QByteArray& start) {
+  constexpr qsizetype kHeader = 10;
+  const bool isGif = start.startsWith("GIF87a") || start.startsWith("GIF89a");
+  if (!isGif || start.size() < kHeader) return std::nullopt;
+  return QSize(qFromLittleEndian<quint16>(start.constData() + 6),
+               qFromLittleEndian<quint16>(start.constData() + 8));
+}
+
+QString sizeOf(QSize size) {
+  return u"%1x%2"_s.arg(size.width()).arg(size.height());
+}
+
+}  // namespace
+
+std::optional<QSize> IsGifFile(const QString& path) {
+  QFile file(path);
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return std::nullopt;
+  return gifScreen(file.read(10));
+}
+
+QSize themePictureSize(const ThemeSchema& schema, const QString& path) {
+  const QByteArray bytes = readFile(path);
+  if (const std::optional<QSize> screen = gifScreen(bytes)) return *screen;
+  if (schema.takesJpeg && bytes.startsWith("\xFF\xD8\xFF")) return LoadPicture(path).image().size();
+  const QString kinds = schema.takesJpeg ? u"neither a GIF nor a JPEG file"_s : u"no GIF file"_s;
+  throw Fault(FaultNumber::BadPicture, u"\"%1\" is %2."_s.arg(path, kinds));
+}
+
+bool takesSize(const ImageElement& slot, QSize size) {
+  return slot.rule == SizeRule::Exact
+             ? size == slot.size
+             : size.width() <= slot.size.width() && size.height() <= slot.size.height();
+}
+
+QString imageDialogTitle(const ImageElement& slot) {
+  return u"Select %1 image"_s.arg(slot.word);
+}
+
+QString imageDimensionsText(const ImageElement& slot, const QString& path, QSize size) {
+  return u"The dimensions for %1 image must be %2 pixels.\r\n\r\n"
+         "Selected image: \"%3\"\r\n"
+         "Dimensions: %4 pixels"_s.arg(slot.word, sizeOf(slot.size),
+                                       SplitPath(path, PathPart::Name), sizeOf(size));
+}
+
+}  // namespace quillane
