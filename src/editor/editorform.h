@@ -157,6 +157,7 @@ class EditorForm : public QDialog {
   void btnRefresh_Click();
   void btnCopy_Click();
   void btnPaste_Click();
+  clsOpenSave sourceDialog(const QString& title, const QString& folder) const;
   void btnExport_Click();
   void btnImport_Click();
   /// Takes the colours of a source text; false when it is of no theme of this generation.

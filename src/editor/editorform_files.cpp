@@ -74,12 +74,17 @@ void EditorForm::btnCopy_Click() {
   QGuiApplication::clipboard()->setText(GenerateXml());
 }
 
-void EditorForm::btnExport_Click() {
+clsOpenSave EditorForm::sourceDialog(const QString& title, const QString& folder) const {
   clsOpenSave dialog(desk_.dialogs);
-  dialog.DialogTitle = u"Export the source XML code"_s;
-  dialog.InitDir = desk_.state.ExportFolder;
+  dialog.DialogTitle = title;
+  dialog.InitDir = folder;
   dialog.FileName = u"*.xml"_s;
   dialog.Filter = kSourceFilter;
+  return dialog;
+}
+
+void EditorForm::btnExport_Click() {
+  clsOpenSave dialog = sourceDialog(u"Export the source XML code"_s, desk_.state.ExportFolder);
   dialog.ShowSave(this);
   desk_.state.ExportFolder = SplitPath(dialog.FileName, PathPart::Folder);
   btnRefresh_Click();
@@ -87,11 +92,8 @@ void EditorForm::btnExport_Click() {
 }
 
 void EditorForm::btnImport_Click() {
-  clsOpenSave dialog(desk_.dialogs);
-  dialog.DialogTitle = u"Import the source XML code from a file"_s;
-  dialog.InitDir = desk_.state.ImportFolder;
-  dialog.FileName = u"*.xml"_s;
-  dialog.Filter = kSourceFilter;
+  clsOpenSave dialog =
+      sourceDialog(u"Import the source XML code from a file"_s, desk_.state.ImportFolder);
   dialog.ShowOpen(this);
   desk_.state.ImportFolder = SplitPath(dialog.FileName, PathPart::Folder);
   if (!takeSource(fromCodePage(readFile(dialog.FileName))))
