@@ -153,6 +153,7 @@ class EditorForm : public QDialog {
 
   // Source and files (editorform_files.cpp).
   QString GenerateXml() const;
+  QString askWhereToSave(const QString& title, const QString& folder, const QString& name);
   void btnSave_Click(int index);
   void btnRefresh_Click();
   void btnCopy_Click();

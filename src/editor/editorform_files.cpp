@@ -39,19 +39,30 @@ QString EditorForm::GenerateXml() const {
                       ui_->txtThemeModifiedBy->text(), ui_->lblThemeCreated->text()});
 }
 
+QString EditorForm::askWhereToSave(const QString& title, const QString& folder,
+                                   const QString& name) {
+  clsOpenSave dialog(desk_.dialogs);
+  dialog.DialogTitle = title;
+  dialog.InitDir = folder;
+  dialog.FileName = name;
+  dialog.DefaultExt = u".thm"_s;
+  dialog.Filter = u"Theme files (*.thm)|*.thm"_s;
+  dialog.ShowSave(this);
+  return dialog.FileName;
+}
+
 void EditorForm::btnSave_Click(int index) {
+  const QString title = index == 1 ? u"Save theme file as"_s : u"Save theme file"_s;
   const bool isNew = !EditorThemeFile.contains(u'/');
   QString path = EditorThemeFile;
-  if (isNew || index == 1) {
-    clsOpenSave dialog(desk_.dialogs);
-    dialog.DialogTitle = index == 1 ? u"Save theme file as"_s : u"Save theme file"_s;
-    dialog.InitDir = desk_.state.ThemesFolder;
-    dialog.FileName = isNew ? kNewThemeFile : SplitPath(EditorThemeFile, PathPart::Name);
-    dialog.DefaultExt = u".thm"_s;
-    dialog.Filter = u"Theme files (*.thm)|*.thm"_s;
-    dialog.ShowSave(this);
-    path = dialog.FileName;
-  }
+  if (isNew || index == 1)
+    path = askWhereToSave(title, desk_.state.ThemesFolder,
+                          isNew ? kNewThemeFile : SplitPath(EditorThemeFile, PathPart::Name));
+  // The name is cut at its first point; the dialog asks before a theme that bears what is left of
+  // it is replaced.
+  while (themeSavePath(path) != path && FileExists(themeSavePath(path)))
+    path = askWhereToSave(title, SplitPath(path, PathPart::Folder),
+                          SplitPath(themeSavePath(path), PathPart::Name));
   const ThemeSave save{.themePath = themeSavePath(path),
                        .edited = engine_.values(),
                        .shown = &shown_.values(),

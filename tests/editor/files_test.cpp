@@ -132,6 +132,14 @@ TEST_F(EditorFiles, NameWithTwoPointsLosesAllBehindTheFirst) {
   EXPECT_EQ(listOf("themes"), QStringList({"a.b.thm", "a.thm"}));
   EXPECT_EQ(read("themes/a.b.thm"), old);
   EXPECT_EQ(caption(), captionOf("themes/a.thm"));
+
+  // What is left of another name belongs to somebody else's theme: the dialog asks about that one.
+  const QByteArray taken = read("themes/a.thm");
+  dialogs.expectFile("Save theme file as", path("themes/a.c.thm"));
+  dialogs.expectFile("Save theme file as", QString());
+  click("btnSave_1");
+  EXPECT_EQ(offered().mid(0, 2), QStringList({path("themes/"), "a.thm"}));
+  EXPECT_EQ(read("themes/a.thm"), taken);
 }
 
 TEST_F(EditorFiles, FaultsBeforeThePackingAreTold) {
