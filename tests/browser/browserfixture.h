@@ -6,12 +6,8 @@
 #include "forms/filelistbox.h"
 #include "forms/formicons.h"
 #include "forms/picturebox.h"
-#include "shell/language.h"
-#include "shell/settings.h"
-#include "shell/state.h"
+#include "support/desktest.h"
 #include "support/scripteddialogs.h"
-#include "support/stillworld.h"
-#include "support/tempfolder.h"
 #include "support/tinygif.h"
 #include "theme/archive.h"
 
@@ -25,19 +21,9 @@
 namespace quillane {
 
 /// A browser on a folder of themes, with a program folder and settings of its own.
-class BrowserTest : public TempFolder {
+class BrowserTest : public DeskTest {
  protected:
-  BrowserTest() {
-    state.AppTempFolder = makeFolder("temp") + '/';
-    state.ThemesFolder = makeFolder("home") + '/';
-    state.BrowseFolder = makeFolder("themes") + '/';
-    state.PreviewEngine2 = std::make_unique<clsVistrel>(world);
-    state.EditorEngine2 = std::make_unique<clsVistrel>(world);
-    state.PreviewEngine3G = std::make_unique<clsVistrel3G>(world);
-    state.EditorEngine3G = std::make_unique<clsVistrel3G>(world);
-    InitPreview2(*state.PreviewEngine2, state, settings, faults.reporter());
-    InitPreview3G(*state.PreviewEngine3G, state, settings, faults.reporter());
-  }
+  BrowserTest() { state.BrowseFolder = makeFolder("themes") + '/'; }
 
   /// Opens the window on the folder "themes".
   void open(const QString& commandLine = {}) {
@@ -98,11 +84,7 @@ class BrowserTest : public TempFolder {
     return icon.toImage() == formPixmap(110).toImage() ? 'E' : 'W';
   }
 
-  PublicState state;
-  MemorySettings settings;
   ScriptedDialogs dialogs;
-  StillWorld world;
-  FaultLog faults;
   std::unique_ptr<frmBrowser> browser;
 };
 

@@ -8,12 +8,8 @@
 #include "editor/imagebutton.h"
 #include "forms/colorfield.h"
 #include "forms/picturebox.h"
-#include "shell/language.h"
-#include "shell/settings.h"
-#include "shell/state.h"
+#include "support/desktest.h"
 #include "support/scripteddialogs.h"
-#include "support/stillworld.h"
-#include "support/tempfolder.h"
 #include "support/tinygif.h"
 #include "theme/archive.h"
 #include "theme/load.h"
@@ -33,20 +29,12 @@ namespace quillane {
 constexpr Generation kBoth[] = {Generation::Two, Generation::ThreeG};
 
 /// An editor with a program folder, settings and a theme on show of its own.
-class EditorTest : public TempFolder {
+class EditorTest : public DeskTest {
  protected:
   EditorTest() {
-    state.AppTempFolder = makeFolder("temp") + '/';
-    state.ThemesFolder = makeFolder("home") + '/';
     state.ImageFolder = makeFolder("images") + '/';
     state.ExportFolder = makeFolder("exported") + '/';
     state.ImportFolder = makeFolder("imported") + '/';
-    state.PreviewEngine2 = std::make_unique<clsVistrel>(world);
-    state.EditorEngine2 = std::make_unique<clsVistrel>(world);
-    state.PreviewEngine3G = std::make_unique<clsVistrel3G>(world);
-    state.EditorEngine3G = std::make_unique<clsVistrel3G>(world);
-    InitPreview2(*state.EditorEngine2, state, settings, faults.reporter());
-    InitPreview3G(*state.EditorEngine3G, state, settings, faults.reporter());
   }
 
   /// Packs a theme into "themes" and brings it on show as the browser does.
@@ -176,11 +164,7 @@ class EditorTest : public TempFolder {
     }
   };
 
-  PublicState state;
-  MemorySettings settings;
   TitledDialogs dialogs;
-  StillWorld world;
-  FaultLog faults;
   EditorDesk desk{state, settings, dialogs, world};
   Generation generation = Generation::Two;
   std::unique_ptr<EditorForm> form;
