@@ -16,14 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ToolPicture {
-  const char* button;
-  int picture;
-};
-
 constexpr int kDropDownPicture = 131;
 
-constexpr ToolPicture kToolPictures[] = {
+constexpr ButtonPicture kToolPictures[] = {
     {"btnBrowse", 104},  {"btnHome", 105},          {"btnPrev", 113},   {"btnNext", 114},
     {"btnRefresh", 111}, {"btnNew", 115},           {"btnEdit", 118},   {"btnProperties", 120},
     {"btnExport", 121},  {"btnClipboardCopy", 112}, {"btnCopy", 122},   {"btnMove", 123},
@@ -80,8 +75,7 @@ bool isOn(const MenuRule& rule, int selectedCount, bool themeFailed) {
 }  // namespace
 
 void dressButtons(QWidget& browser) {
-  for (const ToolPicture& row : kToolPictures)
-    browser.findChild<QToolButton*>(QLatin1String(row.button))->setIcon(formIcon(row.picture));
+  dressButtons(browser, kToolPictures);
   browser.findChild<QToolButton*>(u"btnDropDown"_s)->setIcon(tightFormIcon(kDropDownPicture));
 }
 

@@ -29,11 +29,6 @@ namespace {
 constexpr int kPaneColumns = 2;
 constexpr int kBorder = 2;
 
-struct ButtonPicture {
-  const char* button;
-  int picture;
-};
-
 constexpr ButtonPicture kButtonPictures[] = {
     {"btnSave_0", 128},     {"btnSave_1", 119},     {"btnRevert", 138},    {"btnReset", 139},
     {"btnRefresh", 111},    {"btnCopy", 112},       {"btnPaste", 137},     {"btnExport", 121},
@@ -251,8 +246,7 @@ void EditorForm::connectSignals() {
     connect(button, &QAbstractButton::clicked, this,
             [this, event, procedure = procedure] { runCommand(event, procedure); });
   }
-  for (const ButtonPicture& row : kButtonPictures)
-    findChild<QAbstractButton*>(QLatin1String(row.button))->setIcon(formIcon(row.picture));
+  dressButtons(*this, kButtonPictures);
   for (QToolButton* button : {ui_->btnView, ui_->btnMore, ui_->btnDrawImages})
     button->hide();
   for (const auto& [keys, by] : {std::pair{Qt::Key_PageDown, 1}, {Qt::Key_PageUp, -1}})

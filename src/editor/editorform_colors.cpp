@@ -23,7 +23,7 @@ void EditorForm::lblClr_Click(const SlotControls& controls) {
   if (!picked) return;
   QList<int> colors{controls.slot.color};
   if (!alone) colors += controls.slot.followers;
-  const QString rgb = ColorToHtml(QString::number(state.PickerColorOut));
+  const QString rgb = htmlOf(static_cast<ColorValue>(state.PickerColorOut));
   for (const int color : colors) {
     engine_.setColor(color, rgb);
     showColor(controlsOf(color));

@@ -17,7 +17,7 @@ ColorField::ColorField(QWidget* parent) : QAbstractButton(parent) {
 
 void ColorField::setColor(ColorValue color) {
   color_ = color;
-  setAccessibleDescription(ColorToHtml(QString::number(color)));
+  setAccessibleDescription(htmlOf(color));
   update();
 }
 

@@ -5,6 +5,7 @@
 #include "preview/picture.h"
 #include "theme/fault.h"
 
+#include <QAbstractButton>
 #include <QBitmap>
 #include <QRegion>
 
@@ -30,6 +31,11 @@ QIcon formIcon(int id) {
 QIcon tightFormIcon(int id) {
   const QPixmap pixmap = formPixmap(id);
   return QIcon(pixmap.copy(QRegion(pixmap.mask()).boundingRect()));
+}
+
+void dressButtons(QWidget& form, std::span<const ButtonPicture> pictures) {
+  for (const ButtonPicture& row : pictures)
+    form.findChild<QAbstractButton*>(QLatin1String(row.button))->setIcon(formIcon(row.picture));
 }
 
 QIcon programIcon() {

@@ -5,6 +5,10 @@
 #include <QIcon>
 #include <QPixmap>
 
+#include <span>
+
+class QWidget;
+
 namespace quillane {
 
 /// The numbered icon as a pixmap; a null one when the icon is missing, which never stops a form.
@@ -15,6 +19,15 @@ QIcon formIcon(int id);
 
 /// The same without its transparent margin, for a button that is narrower than the picture.
 QIcon tightFormIcon(int id);
+
+/// A button by its name and the numbered icon on it.
+struct ButtonPicture {
+  const char* button;
+  int picture;
+};
+
+/// Gives buttons of a form their icons.
+void dressButtons(QWidget& form, std::span<const ButtonPicture> pictures);
 
 /// The icon of the program, in all its sizes.
 QIcon programIcon();

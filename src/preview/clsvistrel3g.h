@@ -89,6 +89,9 @@ class clsVistrel3G : public PreviewEngine {
   void startWindow(const QString& title);
   /// A text in the title bar.
   void drawTitle(const QString& text);
+  /// The weekdays above a calendar's columns, each centred in a rectangle `step` right of the one
+  /// before; the first rectangle begins at `left`.
+  void drawDayHeads(int left, int step, gen3g::Color saturday);
   /// The number of a day's week at the left of the title bar.
   void drawWeekNumber(const QDate& day);
   /// `mode` 0 has a right key only for exactly two labels, 1 leaves a gap between two keys, 2 shows

@@ -28,6 +28,18 @@ void clsVistrel3G::drawWeekNumber(const QDate& day) {
   drawText(calendarText(day, u"ww"_s, *world_), 13, 24, 128);
 }
 
+void clsVistrel3G::drawDayHeads(int left, int step, gen3g::Color saturday) {
+  font_.Alignment = AlignCentre;
+  font_.Bold = false;
+  setTextColor(TextColor);
+  const QStringList heads = splitList(CalendarDaysOfWeek);
+  for (int column = 0; column <= kSunday; ++column) {
+    if (column == kSaturday) setTextColor(saturday);
+    if (column == kSunday) setTextColor(CalendarWeekendTextColor);
+    drawText(entryOf(heads, column), left + step * column, 45, 126);
+  }
+}
+
 void clsVistrel3G::DrawCalendar() {
   const QDate today = world_->now().date();
   startScreen();
@@ -41,14 +53,7 @@ void clsVistrel3G::DrawCalendar() {
   for (int y = 71; y <= 127; y += 14)
     DrawLine(*surface_, 10, y, 128, y, kGrey);
 
-  font_.Alignment = AlignCentre;
-  font_.Bold = false;
-  setTextColor(TextColor);
-  const QStringList heads = splitList(CalendarDaysOfWeek);
-  for (int column = 0; column <= kSunday; ++column) {
-    if (column >= kSaturday) setTextColor(CalendarWeekendTextColor);
-    drawText(entryOf(heads, column), -45 + 17 * column, 45, 126);
-  }
+  drawDayHeads(-45, 17, CalendarWeekendTextColor);
 
   font_.Alignment = AlignRight;
   QDate day = firstCellOf(today);
@@ -86,15 +91,7 @@ void clsVistrel3G::DrawWeekCalendar() {
   DrawLine(*surface_, 104, 45, 113, 45, mark);
   DrawLine(*surface_, 104, 56, 113, 56, mark);
 
-  font_.Alignment = AlignCentre;
-  font_.Bold = false;
-  setTextColor(TextColor);
-  const QStringList heads = splitList(CalendarDaysOfWeek);
-  for (int column = 0; column <= kSunday; ++column) {
-    if (column == kSaturday) setTextColor(CalendarWeekendHighlightTextColor);
-    if (column == kSunday) setTextColor(CalendarWeekendTextColor);
-    drawText(entryOf(heads, column), -24 + 14 * column, 45, 126);
-  }
+  drawDayHeads(-24, 14, CalendarWeekendHighlightTextColor);
 
   font_.Alignment = AlignRight;
   setTextColor(TextColor);

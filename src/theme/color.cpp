@@ -68,4 +68,8 @@ std::int16_t BlueOf(ColorValue value) {
   return static_cast<std::int16_t>(value >> 16 & 0xFF);
 }
 
+QString htmlOf(ColorValue value) {
+  return ColorToHtml(QString::number(value));
+}
+
 }  // namespace quillane

@@ -16,6 +16,9 @@ using ColorValue = std::uint32_t;
 /// when the text is no whole number of 32 bits.
 QString ColorToHtml(const QString& value);
 
+/// A colour value as RRGGBB, upper-case digits.
+QString htmlOf(ColorValue value);
+
 /// Pads `html` in place on the right with "0" to six places and returns "&HBBGGRR", a text that
 /// reads as a colour value. Of a longer text the first six digits count; an empty one is black.
 QString HtmlToColor(QString& html);

@@ -27,20 +27,10 @@ namespace {
 
 constexpr ColorValue kColorBits = 0xFFFFFF;
 
-struct ButtonPicture {
-  QPushButton* Ui::frmClrPicker::*button;
-  int picture;
-};
-
 constexpr ButtonPicture kButtonPictures[] = {
-    {&Ui::frmClrPicker::btnOK, 101},      {&Ui::frmClrPicker::btnCancel, 102},
-    {&Ui::frmClrPicker::btnOpen, 129},    {&Ui::frmClrPicker::btnWinCrlPicker, 130},
-    {&Ui::frmClrPicker::btnPalette, 131},
+    {"btnOK", 101},           {"btnCancel", 102},  {"btnOpen", 129},
+    {"btnWinCrlPicker", 130}, {"btnPalette", 131},
 };
-
-QString htmlOf(ColorValue color) {
-  return ColorToHtml(QString::number(color));
-}
 
 /// A colour value of three parts in the order of a picker's rows.
 template <typename PartOf>
@@ -109,8 +99,7 @@ void frmClrPicker::connectSignals() {
 }
 
 void frmClrPicker::Form_Load() {
-  for (const ButtonPicture& row : kButtonPictures)
-    ((*ui_).*row.button)->setIcon(formIcon(row.picture));
+  dressButtons(*this, kButtonPictures);
   makeMenu();
   loadBuiltIn();
 }

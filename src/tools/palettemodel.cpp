@@ -48,7 +48,7 @@ QVariant PaletteModel::data(const QModelIndex& field, int role) const {
       return colorOf(color);
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
-      return ColorToHtml(QString::number(color));
+      return htmlOf(color);
     default:
       return {};
   }
