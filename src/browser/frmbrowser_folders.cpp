@@ -35,7 +35,7 @@ void frmBrowser::stepTo(int index) {
 
 void frmBrowser::btnBrowse_Click() {
   const QString folder =
-      dialogs_.chooseFolder(this, u"Select folder with themes:"_s, state_.BrowseFolder);
+      dialogs_.BrowseForFolder(this, state_.BrowseFolder, u"Select folder with themes:"_s);
   if (folder.isEmpty()) return;
   addToHistory(state_.BrowseFolder);
   showFolder(folder);

@@ -6,10 +6,13 @@
 #include "forms/formcolors.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QCursor>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace quillane {
 
@@ -23,6 +26,8 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
       return QMessageBox::Critical;
     case MessageIcon::Warning:
       return QMessageBox::Warning;
+    case MessageIcon::Question:
+      return QMessageBox::Question;
     case MessageIcon::Information:
       break;
   }
@@ -36,6 +41,15 @@ QStringList nameFilters(const QString& filter) {
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
     filters << (parts[i].endsWith(u')') ? parts[i] : u"%1 (%2)"_s.arg(parts[i], parts[i + 1]));
   return filters;
+}
+
+void show(QMessageBox& box) {
+  // File names come from strangers and are no markup.
+  box.setTextFormat(Qt::PlainText);
+  // Whoever is to answer should not see the wait pointer of the work that asks.
+  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+  box.exec();
+  QGuiApplication::restoreOverrideCursor();
 }
 
 constexpr qsizetype kLongestText = 20000;
@@ -60,16 +74,30 @@ QString titleText(QString text) {
 void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& title,
                              const QString& text) {
   QMessageBox box(iconOf(icon), title, widgetText(text), QMessageBox::Ok, owner);
-  // File names come from strangers and are no markup.
-  box.setTextFormat(Qt::PlainText);
-  // Whoever is to answer should not see the wait pointer of the work that asks.
-  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-  box.exec();
-  QGuiApplication::restoreOverrideCursor();
+  show(box);
 }
 
-QString DesktopDialogs::chooseFolder(QWidget* owner, const QString& prompt, const QString& start) {
-  return QFileDialog::getExistingDirectory(owner, prompt, start);
+Answer DesktopDialogs::ask(QWidget* owner, const Question& question) {
+  QMessageBox box(iconOf(question.icon), question.title, widgetText(question.text),
+                  QMessageBox::NoButton, owner);
+  QList<QAbstractButton*> buttons;
+  // The role of none keeps the order in which the buttons are told.
+  for (const QString& caption : question.buttons)
+    buttons << box.addButton(caption, QMessageBox::ActionRole);
+  box.setEscapeButton(buttons.last());
+  box.setDefaultButton(static_cast<QPushButton*>(buttons[question.standard]));
+  QCheckBox* tick = nullptr;
+  if (!question.checkBox.isEmpty()) {
+    tick = new QCheckBox(question.checkBox, &box);
+    box.setCheckBox(tick);
+  }
+  show(box);
+  return {static_cast<int>(buttons.indexOf(box.clickedButton())), tick && tick->isChecked()};
+}
+
+QString DesktopDialogs::BrowseForFolder(QWidget* owner, const QString& startFolder,
+                                        const QString& prompt) {
+  return QFileDialog::getExistingDirectory(owner, prompt, startFolder);
 }
 
 bool DesktopDialogs::chooseFile(QWidget* owner, clsOpenSave& request, FileQuestion question) {
@@ -105,6 +133,10 @@ std::optional<ColorValue> DesktopDialogs::chooseColor(QWidget* owner, ColorValue
   }
   if (!accepted) return {};
   return colorValueOf(dialog.selectedColor());
+}
+
+bool DesktopDialogs::openPage(const QUrl& page) {
+  return QDesktopServices::openUrl(page);
 }
 
 void DesktopDialogs::beep() {

@@ -5,10 +5,12 @@
 #include "theme/color.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <optional>
 
+class QUrl;
 class QWidget;
 
 namespace quillane {
@@ -22,10 +24,26 @@ enum class FileQuestion { Open, Save };
 using CustomColors = std::array<ColorValue, 16>;
 
 /// The icon of a message box.
-enum class MessageIcon { Stop, Warning, Information };
+enum class MessageIcon { Stop, Warning, Information, Question };
 
-/// The balloon texts, boxes and sounds with which forms turn to a person; a test answers them from
-/// a script.
+/// A question whose answers are buttons of its own.
+struct Question {
+  MessageIcon icon = MessageIcon::Question;
+  QString title;
+  QString text;
+  QStringList buttons;  ///< Their captions. Escape and closing the box mean the last one.
+  int standard = 0;     ///< Index of the button that Enter means.
+  QString checkBox;     ///< Caption of a box to tick below the text; empty for none.
+};
+
+/// The button chosen, by its index, and whether the box was ticked.
+struct Answer {
+  int button = 0;
+  bool ticked = false;
+};
+
+/// The boxes, pages and sounds with which forms turn to a person; a test answers them from a
+/// script.
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -33,8 +51,12 @@ class Dialogs {
   /// Shows a message and waits until it is closed.
   virtual void message(QWidget* owner, MessageIcon icon, const QString& title,
                        const QString& text) = 0;
-  /// Asks for a folder, beginning at `start`; empty when the person cancels.
-  virtual QString chooseFolder(QWidget* owner, const QString& prompt, const QString& start) = 0;
+  /// Asks a question and waits for the answer.
+  virtual Answer ask(QWidget* owner, const Question& question) = 0;
+  /// Asks for a folder, beginning at `startFolder`. The answer has no separator at its end unless
+  /// it is the root, and is empty when the person cancels.
+  virtual QString BrowseForFolder(QWidget* owner, const QString& startFolder,
+                                  const QString& prompt) = 0;
   /// Shows a file dialog as `request` has it and leaves the answer there; false when the person
   /// cancels.
   virtual bool chooseFile(QWidget* owner, clsOpenSave& request, FileQuestion question) = 0;
@@ -42,6 +64,8 @@ class Dialogs {
   /// colours. Nothing when the person cancels.
   virtual std::optional<ColorValue> chooseColor(QWidget* owner, ColorValue initial,
                                                 CustomColors& custom) = 0;
+  /// Shows a page in the desktop's browser; false when the desktop has none to show it.
+  virtual bool openPage(const QUrl& page) = 0;
   /// The system's beep.
   virtual void beep() = 0;
 };
@@ -59,10 +83,13 @@ class DesktopDialogs : public Dialogs {
  public:
   void message(QWidget* owner, MessageIcon icon, const QString& title,
                const QString& text) override;
-  QString chooseFolder(QWidget* owner, const QString& prompt, const QString& start) override;
+  Answer ask(QWidget* owner, const Question& question) override;
+  QString BrowseForFolder(QWidget* owner, const QString& startFolder,
+                          const QString& prompt) override;
   bool chooseFile(QWidget* owner, clsOpenSave& request, FileQuestion question) override;
   std::optional<ColorValue> chooseColor(QWidget* owner, ColorValue initial,
                                         CustomColors& custom) override;
+  bool openPage(const QUrl& page) override;
   void beep() override;
 };
 

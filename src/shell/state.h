@@ -14,7 +14,8 @@
 namespace quillane {
 
 /// The public variables of the program: `Main` fills them, the forms are given them, and they last
-/// for the run. A folder text ends with a separator.
+/// for the run. A folder text ends with a separator, but for the last answers of folder dialogs:
+/// `CopyMoveFolder` and `ExtractFolder` are kept as they were given.
 struct PublicState {
   QString AppTempFolder;       ///< Work area of the theme on show.
   QString ThemesFolder;        ///< Where new themes are saved.
@@ -34,6 +35,8 @@ struct PublicState {
   QString LanguageFile3G;      ///< Bare name of the language file of 3G.
   QString PalettesFolder;      ///< Where palette files are looked for.
   QString UserPalette;         ///< Path of the user's palette file, or empty.
+  QString HelpFolder;          ///< The pages of the help, as installed.
+  QString SystemFolder;        ///< Where the programs of the system lie; no separator at its end.
 
   bool DisableETT = false;       ///< The writer leaves out the authoring tags.
   bool IncludeIndexFile = true;  ///< A save puts `index.txt` into the archive.

@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QString>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -30,6 +31,12 @@ class ScriptedDialogs : public Dialogs {
     script_.push_back({"folder", prompt, answer});
   }
 
+  /// A question, answered by the caption of a button.
+  void expectQuestion(const QString& text, const QString& button, bool ticked = false) {
+    script_.push_back({"question", text, button, ticked ? 1 : 0});
+  }
+  void expectPage(const QString& address) { script_.push_back({"page", address, {}}); }
+
   /// A file dialog, told by its title; an empty path cancels it. Afterwards `lastFile` holds how
   /// the dialog was filled.
   void expectFile(const QString& title, const QString& path, int filterIndex = 1) {
@@ -46,20 +53,33 @@ class ScriptedDialogs : public Dialogs {
     QString folder, fileName, extension, filter;
   };
   FileFields lastFile{};
+  QString lastFolder;           ///< Where the last folder dialog began.
   CustomColors customColors{};  ///< What the last colour dialog was given.
 
   void message(QWidget*, MessageIcon, const QString&, const QString& text) override {
     take("message", text);
   }
-  QString chooseFolder(QWidget*, const QString& prompt, const QString&) override {
+  Answer ask(QWidget*, const Question& question) override {
+    const Step step = take("question", question.text);
+    const auto button = question.buttons.indexOf(step.answer);
+    EXPECT_GE(button, 0) << "no button " << step.answer.toStdString();
+    EXPECT_TRUE(!step.detail || !question.checkBox.isEmpty()) << "nothing to tick";
+    return {static_cast<int>(button), step.detail != 0};
+  }
+  QString BrowseForFolder(QWidget*, const QString& startFolder, const QString& prompt) override {
+    lastFolder = startFolder;
     return take("folder", prompt).answer;
+  }
+  bool openPage(const QUrl& page) override {
+    take("page", page.toString());
+    return true;
   }
   bool chooseFile(QWidget*, clsOpenSave& request, FileQuestion question) override {
     lastFile = {question, request.InitDir, request.FileName, request.DefaultExt, request.Filter};
     const Step step = take("file", request.DialogTitle);
     if (step.answer.isEmpty()) return false;
     request.FileName = step.answer;
-    request.FilterIndex = step.filterIndex;
+    request.FilterIndex = step.detail;
     return true;
   }
   std::optional<ColorValue> chooseColor(QWidget*, ColorValue initial,
@@ -76,7 +96,7 @@ class ScriptedDialogs : public Dialogs {
     QString kind;
     QString text;
     QString answer{};
-    int filterIndex = 1;
+    int detail = 1;
   };
 
   Step take(const QString& kind, const QString& text) {
