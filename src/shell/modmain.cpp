@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/modmain.h"
 
+#include "shell/converter.h"
 #include "shell/files.h"
 #include "shell/language.h"
 #include "shell/places.h"
@@ -11,7 +12,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QImageWriter>
 
 namespace quillane {
 
@@ -94,11 +94,6 @@ void readActive(PublicState& state, const SettingsStore& settings, const FaultRe
   state.ActiveBattery = flagSetting(settings, setting::ActiveBattery, report);
 }
 
-bool pictureWritersPresent() {
-  const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
-  return formats.contains("jpeg") && formats.contains("png");
-}
-
 void setLanguageFiles(PublicState& state, const SettingsStore& settings,
                       const QString& programFolder) {
   state.ConfigFolder2 = programFolder + "Vistrel Config/2/"_L1;
@@ -145,7 +140,7 @@ bool Main(PublicState& state, const SettingsStore& settings, const Places& place
   seedProgramFolder(places, report);
   readFolders(state, settings, programFolder);
   readSwitches(state, settings, report);
-  state.IViewPresent = pictureWritersPresent();
+  state.IViewPresent = canConvert();
   setLanguageFiles(state, settings, programFolder);
   state.PalettesFolder = programFolder + "Palettes/"_L1;
   state.HelpFolder = withSeparator(places.shippedFolder) + "help/"_L1;

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/converter.h"
+
+#include "preview/picture.h"
+#include "shell/quantize.h"
+#include "support/hindrance.h"
+#include "support/tempfolder.h"
+
+#include <QSet>
+
+#include <cmath>
+
+namespace quillane {
+
+namespace {
+
+class Converter : public TempFolder {
+ protected:
+  QByteArray saved(const QImage& picture, const QString& name, PictureKind kind) {
+    savePicture(picture, path(name), kind, path("qualities.ini"));
+    return read(name);
+  }
+};
+
+/// A sky over water, with more colours than a palette holds.
+QImage photo() {
+  QImage picture(128, 127, QImage::Format_RGB32);
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      picture.setPixel(x, y, qRgb(y + x / 2, 40 + y, 255 - x - (x * y) % 7));
+  return picture;
+}
+
+/// 255 colours and a hole, with a margin that is nearly transparent.
+QImage withHole() {
+  QImage picture(17, 16, QImage::Format_ARGB32);
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      picture.setPixel(x, y, x == 16 ? qRgba(9, 9, 9, 100) : qRgba(x * 16, y * 16, 7, 128));
+  picture.setPixel(0, 0, qRgba(1, 2, 3, 0));
+  return picture;
+}
+
+/// Mean square difference of the channels, per pixel.
+double difference(const QImage& a, const QImage& b) {
+  double sum = 0;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x) {
+      const QColor p = a.pixelColor(x, y);
+      const QColor q = b.pixelColor(x, y);
+      for (const int d : {p.red() - q.red(), p.green() - q.green(), p.blue() - q.blue()})
+        sum += d * d;
+    }
+  return sum / (3.0 * a.width() * a.height());
+}
+
+TEST_F(Converter, WritesEveryKindSoThatItReadsBack) {
+  struct Case {
+    PictureKind kind;
+    const char* start;
+    double worst;
+  };
+  const Case cases[] = {{PictureKind::Gif, "GIF8", 40},
+                        {PictureKind::Jpeg, "\xFF\xD8", 12},
+                        {PictureKind::Png, "\x89PNG", 0},
+                        {PictureKind::Bmp, "BM", 0}};
+  for (const Case& row : cases) {
+    const QByteArray bytes = saved(photo(), "any", row.kind);
+    EXPECT_TRUE(bytes.startsWith(row.start));
+    EXPECT_EQ(bytes, saved(photo(), "again", row.kind)) << "always the same";
+    const QImage back(path("any"));
+    ASSERT_EQ(back.size(), photo().size());
+    EXPECT_LE(difference(back, photo()), row.worst) << row.start;
+  }
+}
+
+TEST_F(Converter, KeepsFewColorsAndTheMask) {
+  EXPECT_LE(reduceTo256(photo()).colorCount(), 256);
+  saved(withHole(), "a.gif", PictureKind::Gif);
+  const QImage back = LoadPicture(path("a.gif")).image().convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < back.height(); ++y)
+    for (int x = 0; x < back.width(); ++x) {
+      const bool isGone = x == 16 || (x == 0 && y == 0);
+      ASSERT_EQ(qAlpha(back.pixel(x, y)), isGone ? 0 : 255) << x << ' ' << y;
+      ASSERT_TRUE(isGone || back.pixel(x, y) == qRgb(x * 16, y * 16, 7)) << x << ' ' << y;
+    }
+  saved(withHole(), "a.bmp", PictureKind::Bmp);
+  EXPECT_EQ(QImage(path("a.bmp")).pixel(0, 0), qRgb(255, 255, 255));
+  QImage many = photo().convertToFormat(QImage::Format_ARGB32);
+  for (int x = 0; x < many.width(); ++x)
+    many.setPixel(x, 5, qRgba(200, 0, 0, 127));
+  const QImage reduced = reduceTo256(many);
+  EXPECT_LE(reduced.colorCount(), 256);
+  for (int y = 0; y < many.height(); ++y)
+    for (int x = 0; x < many.width(); ++x)
+      ASSERT_EQ(qAlpha(reduced.pixel(x, y)), y == 5 ? 0 : 255);
+}
+
+TEST_F(Converter, ObeysTheQualities) {
+  const auto size = [&](PictureKind kind, const QByteArray& ini) {
+    write("qualities.ini", ini);
+    return saved(photo(), "sized", kind).size();
+  };
+  const auto jpeg = size(PictureKind::Jpeg, "");
+  EXPECT_LT(size(PictureKind::Jpeg, "[JPEG]\r\nSave Quality=10\r\n"), jpeg);
+  EXPECT_GT(size(PictureKind::Jpeg, "[JPEG]\r\nSave Quality=100\r\n"), jpeg);
+  EXPECT_EQ(size(PictureKind::Jpeg, "[JPEG]\r\nSave Quality=0\r\n"), jpeg) << "out of range";
+  const auto png = size(PictureKind::Png, "[PNG]\r\nCompressionLevel=x\r\n");
+  EXPECT_GT(size(PictureKind::Png, "[PNG]\r\nCompressionLevel=0\r\n"), 3 * 128 * 127);
+  EXPECT_LT(png, 3 * 128 * 127) << "6, the standard";
+}
+
+TEST_F(Converter, LeavesTheOldFileWhenItFails) {
+  write("old.gif", "precious");
+  const FileSizeLimit limit(100);
+  EXPECT_THROW(savePicture(photo(), path("old.gif"), PictureKind::Gif, {}), Fault);
+  EXPECT_EQ(read("old.gif"), "precious");
+  EXPECT_EQ(listOf("").size(), 1);
+}
+
+}  // namespace
+
+}  // namespace quillane
