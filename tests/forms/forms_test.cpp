@@ -5,6 +5,7 @@
 #include "forms/ctooltips.h"
 #include "forms/eventprocedure.h"
 #include "forms/filelistbox.h"
+#include "forms/frmabout.h"
 #include "forms/picturebox.h"
 #include "preview/modapigraphics.h"
 #include "support/probes.h"
@@ -15,6 +16,8 @@
 #include <QEnterEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QTextDocument>
 
 namespace quillane {
 
@@ -87,6 +90,18 @@ TEST_F(Forms, HostileNamesStayWithinTheBalloon) {
     balloon.showAt({400, 400}, {}, text.left(300), text);
     EXPECT_LE(balloon.width(), 450);
     EXPECT_LE(balloon.findChild<QLabel*>("balloonText")->text().size(), 20100);
+  }
+}
+
+TEST_F(Forms, AboutTellsTheVersionInMemoryOfEachLibrary) {
+  const frmAbout about(nullptr);
+  const auto* table = about.findChild<QLabel*>("lblLibraries");
+  QTextDocument text;
+  text.setHtml(table->text());
+  const QString plain = text.toPlainText();
+  for (const char* library : {"Qt", "libarchive", "FreeType", "Fontconfig"}) {
+    const QRegularExpression row("\\b" + QString(library) + " [1-9]\\d*(\\.\\d+){1,3}\\s");
+    EXPECT_TRUE(plain.contains(row)) << library << " in " << plain.toStdString();
   }
 }
 
