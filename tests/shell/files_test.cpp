@@ -94,8 +94,10 @@ class Seed : public TempFolder {
 TEST_F(Seed, CopiesEachFileOnceAndNeverOverAnother) {
   write("shipped/My Themes/a.thm", "new");
   write("shipped/My Themes/b.thm", "new");
+  write("shipped/help/index.html", "read where it is");
   write("home/My Themes/a.thm", "the user's own");
   seed();
+  EXPECT_FALSE(QFile::exists(path("home/help")));
   EXPECT_EQ(read("home/My Themes/a.thm"), "the user's own");
   EXPECT_EQ(read("home/My Themes/b.thm"), "new");
 
