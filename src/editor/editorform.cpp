@@ -6,6 +6,7 @@
 #include "forms/colorfield.h"
 #include "forms/dialogs.h"
 #include "forms/formicons.h"
+#include "forms/keypreview.h"
 #include "forms/picturebox.h"
 #include "preview/previewengine.h"
 #include "shell/settings.h"
@@ -45,6 +46,7 @@ EditorForm::EditorForm(QWidget* owner, const EditorDesk& desk, const EditorKind&
   buildPanes();
   buildImageSlots();
   connectSignals();
+  new KeyPreview(*this, desk_.state);
   qApp->installEventFilter(this);
 }
 
@@ -233,21 +235,13 @@ void EditorForm::lock(QLineEdit& field, bool locked) {
 }
 
 bool EditorForm::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget && widget->window() == this) keepKeyState(*static_cast<QKeyEvent*>(event));
-  } else if (event->type() == QEvent::MouseButtonRelease) {
+  if (event->type() == QEvent::MouseButtonRelease) {
     const auto* label = qobject_cast<QLabel*>(watched);
     auto* field =
         label && label->window() == this ? qobject_cast<QLineEdit*>(label->buddy()) : nullptr;
     if (field && desk_.state.CtrlDown) lock(*field, false);
   }
   return QDialog::eventFilter(watched, event);
-}
-
-void EditorForm::keepKeyState(const QKeyEvent& event) {
-  desk_.state.ShiftDown = event.modifiers().testFlag(Qt::ShiftModifier);
-  desk_.state.CtrlDown = event.modifiers().testFlag(Qt::ControlModifier);
 }
 
 // Escape must not throw away what was not saved.

@@ -125,7 +125,6 @@ class EditorForm : public QDialog {
   void btnRevert_Click();
   void btnReset_Click();
   void lock(QLineEdit& field, bool locked);
-  void keepKeyState(const QKeyEvent& event);
 
   // Colours (editorform_colors.cpp).
   void lblClr_Click(const SlotControls& controls);
@@ -158,7 +157,6 @@ class EditorForm : public QDialog {
   void btnRefresh_Click();
   void btnCopy_Click();
   void btnPaste_Click();
-  clsOpenSave sourceDialog(const QString& title, const QString& folder) const;
   void btnExport_Click();
   void btnImport_Click();
   /// Takes the colours of a source text; false when it is of no theme of this generation.

@@ -4,6 +4,7 @@
 #include "editor/editorform.h"
 #include "forms/clsopensave.h"
 #include "forms/dialogs.h"
+#include "forms/sourcedialog.h"
 #include "preview/previewengine.h"
 #include "shell/files.h"
 #include "shell/state.h"
@@ -28,7 +29,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kNewThemeFile = u"New Theme.thm"_s;
-constexpr auto kSourceFilter = "XML file (*.xml)|*.xml|Text file (*.txt)|*.txt"_L1;
 
 }  // namespace
 
@@ -85,26 +85,18 @@ void EditorForm::btnCopy_Click() {
   QGuiApplication::clipboard()->setText(GenerateXml());
 }
 
-clsOpenSave EditorForm::sourceDialog(const QString& title, const QString& folder) const {
-  clsOpenSave dialog(desk_.dialogs);
-  dialog.DialogTitle = title;
-  dialog.InitDir = folder;
-  dialog.FileName = u"*.xml"_s;
-  dialog.Filter = kSourceFilter;
-  return dialog;
-}
-
 void EditorForm::btnExport_Click() {
-  clsOpenSave dialog = sourceDialog(u"Export the source XML code"_s, desk_.state.ExportFolder);
-  dialog.ShowSave(this);
-  desk_.state.ExportFolder = SplitPath(dialog.FileName, PathPart::Folder);
+  const QString path = askExportPath(this, desk_.dialogs, desk_.state, u"*.xml"_s);
   btnRefresh_Click();
-  saveFile(dialog.FileName, toCodePage(GenerateXml()));
+  saveFile(path, toCodePage(GenerateXml()));
 }
 
 void EditorForm::btnImport_Click() {
-  clsOpenSave dialog =
-      sourceDialog(u"Import the source XML code from a file"_s, desk_.state.ImportFolder);
+  clsOpenSave dialog(desk_.dialogs);
+  dialog.DialogTitle = u"Import the source XML code from a file"_s;
+  dialog.InitDir = desk_.state.ImportFolder;
+  dialog.FileName = u"*.xml"_s;
+  dialog.Filter = kSourceFilter;
   dialog.ShowOpen(this);
   desk_.state.ImportFolder = SplitPath(dialog.FileName, PathPart::Folder);
   if (!takeSource(fromCodePage(readFile(dialog.FileName))))

@@ -31,6 +31,10 @@ class FileListBox : public QListView {
 
   int listCount() const { return static_cast<int>(names_.size()); }
   const QString& item(int index) const { return names_.at(index); }
+  /// Index of the item on which the keyboard stands, -1 for none.
+  int listIndex() const { return currentIndex().row(); }
+  /// Index of the first item in view.
+  int topIndex() const { return indexAt(QPoint(0, 0)).row(); }
 
   /// Indexes of the selected items, ascending.
   QList<int> selectedItems() const;

@@ -180,7 +180,7 @@ TEST_F(EditorFiles, SourceIsExported) {
     openNew(which);
     control<QLineEdit>("txtThemeName").setText(QString::fromUtf8("Caf\u00E9"));
     clickFor("btnExport", "Export the source XML code", {});
-    EXPECT_EQ(offered(), QStringList({path("exported/"), "*.xml", "", kSourceFilter}));
+    EXPECT_EQ(offered(), QStringList({path("exported/"), "*.xml", ".xml", kSourceFilter}));
     EXPECT_FALSE(source().contains("Theme_name"));
     write("out/a.xml", QByteArray(50'000, 'x'));
     clickFor("btnExport", "Export the source XML code", path("out/a.xml"));
