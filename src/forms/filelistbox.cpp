@@ -3,7 +3,6 @@
 #include "forms/filelistbox.h"
 
 #include "forms/formfonts.h"
-#include "shell/listing.h"
 #include "theme/fault.h"
 
 #include <QHelpEvent>
@@ -59,7 +58,7 @@ void FileListBox::setPath(const QString& path) {
 void FileListBox::refresh() {
   names_.clear();
   try {
-    names_ = listFiles(path_, ending_);
+    names_ = listFiles(path_, ending_, hidden_);
   } catch (const Fault&) {
     model_->setStringList(names_);
     throw;
