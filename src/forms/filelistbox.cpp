@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/filelistbox.h"
 
+#include "forms/dialogs.h"
 #include "forms/formfonts.h"
 #include "theme/fault.h"
 
@@ -31,7 +32,7 @@ class RowDelegate : public QStyledItemDelegate {
                  const QModelIndex& index) override {
     const QString name = index.data().toString();
     const bool fits = sizeHint(option, index).width() <= view->visualRect(index).width();
-    QToolTip::showText(event->globalPos(), fits ? QString() : name.toHtmlEscaped(), view);
+    QToolTip::showText(event->globalPos(), fits ? QString() : tipText(name), view);
     return true;
   }
 };
