@@ -6,6 +6,7 @@
 #include "forms/eventprocedure.h"
 #include "forms/filelistbox.h"
 #include "forms/frmabout.h"
+#include "forms/imagebox.h"
 #include "forms/picturebox.h"
 #include "preview/modapigraphics.h"
 #include "support/probes.h"
@@ -17,6 +18,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextDocument>
 
 namespace quillane {
@@ -52,6 +54,27 @@ TEST_F(Forms, PictureBoxShowsItsSurfacePixelForPixel) {
   EXPECT_EQ(seen.pixelColor(2, 2), QColor(Qt::red));
   EXPECT_EQ(seen.pixelColor(112, 92), QColor(Qt::blue));
   EXPECT_EQ(seen.pixelColor(3, 3), box.palette().color(QPalette::Window));
+}
+
+TEST_F(Forms, ImageBoxScrollsWhatHasNoRoom) {
+  ImageBox box;
+  box.resize(60, 60);
+  box.show();
+  QImage picture(60, 60, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  box.setPicture(picture);
+  EXPECT_EQ(box.horizontalScrollBar()->maximum(), 0);
+  EXPECT_EQ(box.verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(box.viewport()->size(), QSize(60, 60));
+  picture = QImage(200, 80, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  picture.setPixelColor(199, 79, Qt::blue);
+  box.setPicture(picture);
+  box.horizontalScrollBar()->setValue(200);
+  box.verticalScrollBar()->setValue(200);
+  const QImage shown = box.viewport()->grab().toImage();
+  EXPECT_EQ(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor(Qt::blue));
+  EXPECT_EQ(shown.pixelColor(0, 0), QColor(Qt::red));
 }
 
 TEST_F(Forms, BalloonOpensOnHoverAndOnlyWithAText) {

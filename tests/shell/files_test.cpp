@@ -59,6 +59,8 @@ TEST_F(Files, ListsByNameWhateverTheLetterCase) {
     write(name, "x");
   makeFolder("folder.thm");
   EXPECT_EQ(listFiles(path(), ".thm"), (QStringList{"A.THM", "b.thm", "c.thm"}));
+  EXPECT_EQ(listFiles(path(), {}, HiddenFiles::List),
+            (QStringList{".hidden.thm", "A.THM", "b.thm", "c.thm", "d.zip", "thm"}));
 }
 
 class Ini : public TempFolder {};
