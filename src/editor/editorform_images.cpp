@@ -124,7 +124,7 @@ void EditorForm::showImage(int slot) {
   if (path.isEmpty()) return;
   const QString name = SplitPath(path, PathPart::Name);
   ui_->lblFileName->setText(u"File name: "_s + name);
-  ui_->lblFileName->setToolTip(name);
+  ui_->lblFileName->setToolTip(tipText(name));
   ui_->lblFileSize->setText(u"File size: "_s + FormatFileSize(path));
   skipOnFault([&] { ui_->imgPreview->setPixmap(QPixmap::fromImage(LoadPicture(path).image())); });
 }

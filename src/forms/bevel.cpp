@@ -25,6 +25,10 @@ void Bevel::light(int x1, int y1, int x2, int y2) {
   line(painter_, x1, y1, x2, y2, palette_.color(QPalette::Light));
 }
 
+void Bevel::midlight(int x1, int y1, int x2, int y2) {
+  line(painter_, x1, y1, x2, y2, palette_.color(QPalette::Midlight));
+}
+
 void DrawEtchedLine(Bevel& bevel, int width, int y) {
   bevel.shadow(0, y, width, y);
   bevel.light(0, y + 1, width, y + 1);

@@ -15,6 +15,8 @@ class Bevel {
 
   void shadow(int x1, int y1, int x2, int y2);
   void light(int x1, int y1, int x2, int y2);
+  /// The paler light of the inner edge.
+  void midlight(int x1, int y1, int x2, int y2);
 
  private:
   QPainter& painter_;

@@ -13,6 +13,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextDocument>
 
 namespace quillane {
 
@@ -65,6 +66,10 @@ QString widgetText(const QString& text) {
     if (line.size() > kLongestLine) line = line.left(kLongestLine) + kCut;
   if (lines.size() > kMostLines) lines = lines.mid(0, kMostLines) << kCut;
   return lines.join(u'\n');
+}
+
+QString tipText(const QString& text) {
+  return Qt::convertFromPlainText(widgetText(text), Qt::WhiteSpaceNormal);
 }
 
 QString titleText(QString text) {

@@ -74,6 +74,9 @@ class Dialogs {
 /// person can read, since parts of it may come from a stranger's file.
 QString widgetText(const QString& text);
 
+/// A stranger's text for a tooltip, which would take some texts for markup.
+QString tipText(const QString& text);
+
 /// A text of the program for the title of a window, whose toolkit takes a single "[*]" for its mark
 /// of an unsaved document.
 QString titleText(QString text);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/filelistbox.h"
 
+#include "forms/dialogs.h"
 #include "forms/formfonts.h"
-#include "shell/listing.h"
 #include "theme/fault.h"
 
 #include <QHelpEvent>
@@ -32,7 +32,7 @@ class RowDelegate : public QStyledItemDelegate {
                  const QModelIndex& index) override {
     const QString name = index.data().toString();
     const bool fits = sizeHint(option, index).width() <= view->visualRect(index).width();
-    QToolTip::showText(event->globalPos(), fits ? QString() : name.toHtmlEscaped(), view);
+    QToolTip::showText(event->globalPos(), fits ? QString() : tipText(name), view);
     return true;
   }
 };
@@ -59,7 +59,7 @@ void FileListBox::setPath(const QString& path) {
 void FileListBox::refresh() {
   names_.clear();
   try {
-    names_ = listFiles(path_, ending_);
+    names_ = listFiles(path_, ending_, hidden_);
   } catch (const Fault&) {
     model_->setStringList(names_);
     throw;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/listing.h"
+
 #include <QListView>
 #include <QStringList>
 
@@ -9,7 +11,8 @@ class QStringListModel;
 
 namespace quillane {
 
-/// A list of the files of one folder that bear an ending. Click, Ctrl+click and Shift+click select.
+/// A list of the files of one folder, or of those that bear an ending. Click, Ctrl+click and
+/// Shift+click select.
 class FileListBox : public QListView {
   Q_OBJECT
 
@@ -21,6 +24,8 @@ class FileListBox : public QListView {
 
   /// The ending of the files to list, as in ".thm", letter case aside.
   void setEnding(const QString& ending) { ending_ = ending; }
+  /// Whether files whose names begin with a point are listed, as they are not at first.
+  void setHiddenFiles(HiddenFiles hidden) { hidden_ = hidden; }
 
   const QString& path() const { return path_; }
   /// Names another folder and emits `PathChange`; `refresh` then reads it.
@@ -58,6 +63,7 @@ class FileListBox : public QListView {
  private:
   QString path_;
   QString ending_;
+  HiddenFiles hidden_ = HiddenFiles::LeaveOut;
   QStringList names_;
   QStringListModel* model_;
 };

@@ -3,9 +3,9 @@
 #include "forms/picturebox.h"
 
 #include "forms/formcolors.h"
+#include "forms/paintpixels.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 
 namespace quillane {
 
@@ -35,15 +35,7 @@ void PictureBox::Cls() {
 
 void PictureBox::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
-  const qreal ratio = devicePixelRatioF();
-  const int whole = qMax(1, qFloor(ratio));
-  const QImage& pixels = surface().image();
-  QImage scaled =
-      pixels.scaled(pixels.size() * whole, Qt::IgnoreAspectRatio, Qt::FastTransformation);
-  scaled.setDevicePixelRatio(ratio);
-  // A place between two device pixels would lose a row or a column.
-  const qreal edge = qRound(kBorder * ratio) / ratio;
-  QPainter(this).drawImage(QPointF(edge, edge), scaled);
+  paintPixels(*this, surface().image(), {kBorder, kBorder});
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {

@@ -88,6 +88,15 @@ FT_Face openFace(FT_Library library, const QString& path, unsigned pixels) {
 
 }  // namespace
 
+QString freeTypeVersion() {
+  const std::unique_ptr<FT_LibraryRec_, void (*)(FT_Library)> library(newLibrary(), freeLibrary);
+  int major = 0;
+  int minor = 0;
+  int patch = 0;
+  FT_Library_Version(library.get(), &major, &minor, &patch);
+  return u"%1.%2.%3"_s.arg(major).arg(minor).arg(patch);
+}
+
 QStringList splitLines(const QString& text) {
   if (!text.contains(u'\r') && !text.contains(u'\n')) return {text};
   static const QRegularExpression lineEnd(u"\r\n|\r|\n"_s);

@@ -17,6 +17,9 @@
 
 namespace quillane {
 
+/// Version of the library that renders glyphs, as it is in memory: "2.12.1".
+QString freeTypeVersion();
+
 /// A character in black and white.
 struct Glyph {
   int advance = 0;                  ///< Pixels to the next character.

@@ -10,6 +10,8 @@
 
 namespace quillane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char* kFaceFolders[] = {"/usr/share/wine/fonts/",
@@ -60,6 +62,11 @@ QString closestFaceFile(const QString& family, bool bold) {
   FcResult result = FcResultNoMatch;
   const Pattern found(FcFontMatch(configuration.get(), wanted.get(), &result), &FcPatternDestroy);
   return fileOf(found.get());
+}
+
+QString fontconfigVersion() {
+  const int version = FcGetVersion();
+  return u"%1.%2.%3"_s.arg(version / 10000).arg(version / 100 % 100).arg(version % 100);
 }
 
 }  // namespace quillane

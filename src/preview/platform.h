@@ -12,4 +12,7 @@ QString findFaceFile(const QString& fileName);
 /// Path of the installed outline face that comes closest to a family; empty when there is none.
 QString closestFaceFile(const QString& family, bool bold);
 
+/// Version of the library that finds faces, as it is in memory: "2.14.1".
+QString fontconfigVersion();
+
 }  // namespace quillane

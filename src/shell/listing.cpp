@@ -21,9 +21,13 @@ namespace {
 namespace fs = std::filesystem;
 
 bool isListed(const fs::directory_entry& entry, const QString& name, const QString& ending) {
-  if (name.startsWith(u'.') || !name.endsWith(ending, Qt::CaseInsensitive)) return false;
+  if (!name.endsWith(ending, Qt::CaseInsensitive)) return false;
   std::error_code error;
   return entry.is_regular_file(error);
+}
+
+bool isLeftOut(const QString& name, HiddenFiles hidden) {
+  return hidden == HiddenFiles::LeaveOut && name.startsWith(u'.');
 }
 
 [[noreturn]] void refuse(const QString& folder, const std::error_code& error) {
@@ -33,7 +37,7 @@ bool isListed(const fs::directory_entry& entry, const QString& name, const QStri
 
 }  // namespace
 
-QStringList listFiles(const QString& folder, const QString& ending) {
+QStringList listFiles(const QString& folder, const QString& ending, HiddenFiles hidden) {
   std::vector<std::pair<QString, QString>> found;  // folded name, name
   std::error_code error;
   fs::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
@@ -41,7 +45,8 @@ QStringList listFiles(const QString& folder, const QString& ending) {
   for (const fs::directory_iterator end; entry != end; entry.increment(error)) {
     const QByteArray bytes(entry->path().filename().c_str());
     const QString name = QFile::decodeName(bytes);
-    if (QFile::encodeName(name) == bytes && isListed(*entry, name, ending))
+    if (QFile::encodeName(name) == bytes && !isLeftOut(name, hidden) &&
+        isListed(*entry, name, ending))
       found.emplace_back(name.toCaseFolded(), name);
   }
   // A step that fails ends the walk.

@@ -49,6 +49,9 @@ ThemeError missingXmlError(const QString& fileName);
 /// what the reader would refuse as too much; the old archive is then untouched.
 void packArchive(const QString& themePath, const QStringList& files);
 
+/// Version of the library that reads and writes archives, as it is in memory: "3.6.2".
+QString archiveLibraryVersion();
+
 /// The images that a saved theme packs: those of the filled slots in their order. Generation 2
 /// leaves out a desktop image that is the background's too and an Asian title that is the large
 /// one's, letter case aside; 3G lists a file once for each slot.

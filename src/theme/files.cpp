@@ -10,6 +10,8 @@
 #include <QSaveFile>
 #include <QStorageInfo>
 
+#include <algorithm>
+
 namespace quillane {
 
 using namespace Qt::StringLiterals;
@@ -45,15 +47,24 @@ Fault unwritable(const QString& path, qint64 size) {
   return fileFault(FaultNumber::DeviceFault, u"File \"%1\" could not be written."_s, path);
 }
 
-}  // namespace
-
-QByteArray readFile(const QString& path) {
+template <typename Read>
+QByteArray readBy(const QString& path, Read read) {
   fileSize(path);
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) throw unreadable(path);
-  QByteArray bytes = file.readAll();
+  QByteArray bytes = read(file);
   if (file.error() != QFileDevice::NoError) throw unreadable(path);
   return bytes;
+}
+
+}  // namespace
+
+QByteArray readFile(const QString& path) {
+  return readBy(path, [](QFile& file) { return file.readAll(); });
+}
+
+QByteArray readFileStart(const QString& path, qint64 most) {
+  return readBy(path, [most](QFile& file) { return file.read(std::min(file.size(), most)); });
 }
 
 void saveFile(const QString& path, const QByteArray& bytes) {

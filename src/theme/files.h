@@ -10,6 +10,9 @@ namespace quillane {
 /// Reads a whole regular file. Throws `Fault`.
 QByteArray readFile(const QString& path);
 
+/// Reads the first bytes of a regular file, `most` of them where it has more. Throws `Fault`.
+QByteArray readFileStart(const QString& path, qint64 most);
+
 /// Writes a file beside its place, flushes it and renames it over what was there.
 /// Throws `Fault`; the old file is then untouched.
 void saveFile(const QString& path, const QByteArray& bytes);

@@ -158,6 +158,10 @@ QStringList themeImages(const ThemeValues& values) {
   return images;
 }
 
+QString archiveLibraryVersion() {
+  return QString::fromLatin1(archive_version_string()).section(u' ', 1);
+}
+
 QByteArray themeIndex(const QStringList& files, IndexEnd end) {
   QStringList entries;
   for (const QString& file : files)

@@ -5,6 +5,8 @@
 #include "forms/ctooltips.h"
 #include "forms/eventprocedure.h"
 #include "forms/filelistbox.h"
+#include "forms/frmabout.h"
+#include "forms/imagebox.h"
 #include "forms/picturebox.h"
 #include "preview/modapigraphics.h"
 #include "support/probes.h"
@@ -15,6 +17,9 @@
 #include <QEnterEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextDocument>
 
 namespace quillane {
 
@@ -49,6 +54,27 @@ TEST_F(Forms, PictureBoxShowsItsSurfacePixelForPixel) {
   EXPECT_EQ(seen.pixelColor(2, 2), QColor(Qt::red));
   EXPECT_EQ(seen.pixelColor(112, 92), QColor(Qt::blue));
   EXPECT_EQ(seen.pixelColor(3, 3), box.palette().color(QPalette::Window));
+}
+
+TEST_F(Forms, ImageBoxScrollsWhatHasNoRoom) {
+  ImageBox box;
+  box.resize(60, 60);
+  box.show();
+  QImage picture(60, 60, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  box.setPicture(picture);
+  EXPECT_EQ(box.horizontalScrollBar()->maximum(), 0);
+  EXPECT_EQ(box.verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(box.viewport()->size(), QSize(60, 60));
+  picture = QImage(200, 80, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  picture.setPixelColor(199, 79, Qt::blue);
+  box.setPicture(picture);
+  box.horizontalScrollBar()->setValue(200);
+  box.verticalScrollBar()->setValue(200);
+  const QImage shown = box.viewport()->grab().toImage();
+  EXPECT_EQ(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor(Qt::blue));
+  EXPECT_EQ(shown.pixelColor(0, 0), QColor(Qt::red));
 }
 
 TEST_F(Forms, BalloonOpensOnHoverAndOnlyWithAText) {
@@ -87,6 +113,18 @@ TEST_F(Forms, HostileNamesStayWithinTheBalloon) {
     balloon.showAt({400, 400}, {}, text.left(300), text);
     EXPECT_LE(balloon.width(), 450);
     EXPECT_LE(balloon.findChild<QLabel*>("balloonText")->text().size(), 20100);
+  }
+}
+
+TEST_F(Forms, AboutTellsTheVersionInMemoryOfEachLibrary) {
+  const frmAbout about(nullptr);
+  const auto* table = about.findChild<QLabel*>("lblLibraries");
+  QTextDocument text;
+  text.setHtml(table->text());
+  const QString plain = text.toPlainText();
+  for (const char* library : {"Qt", "libarchive", "FreeType", "Fontconfig"}) {
+    const QRegularExpression row("\\b" + QString(library) + " [1-9]\\d*(\\.\\d+){1,3}\\s");
+    EXPECT_TRUE(plain.contains(row)) << library << " in " << plain.toStdString();
   }
 }
 

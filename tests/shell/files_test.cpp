@@ -59,6 +59,8 @@ TEST_F(Files, ListsByNameWhateverTheLetterCase) {
     write(name, "x");
   makeFolder("folder.thm");
   EXPECT_EQ(listFiles(path(), ".thm"), (QStringList{"A.THM", "b.thm", "c.thm"}));
+  EXPECT_EQ(listFiles(path(), {}, HiddenFiles::List),
+            (QStringList{".hidden.thm", "A.THM", "b.thm", "c.thm", "d.zip", "thm"}));
 }
 
 class Ini : public TempFolder {};
@@ -94,8 +96,10 @@ class Seed : public TempFolder {
 TEST_F(Seed, CopiesEachFileOnceAndNeverOverAnother) {
   write("shipped/My Themes/a.thm", "new");
   write("shipped/My Themes/b.thm", "new");
+  write("shipped/help/index.html", "read where it is");
   write("home/My Themes/a.thm", "the user's own");
   seed();
+  EXPECT_FALSE(QFile::exists(path("home/help")));
   EXPECT_EQ(read("home/My Themes/a.thm"), "the user's own");
   EXPECT_EQ(read("home/My Themes/b.thm"), "new");
 
