@@ -3,6 +3,7 @@
 #include "browser/frmbrowser.h"
 
 #include "browser/commands.h"
+#include "browser/frmproperties.h"
 #include "forms/bevel.h"
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
@@ -161,19 +162,22 @@ void frmBrowser::Form_Unload() {
                  [this] { settings_.flush(); });
 }
 
-void frmBrowser::keyPressEvent(QKeyEvent* event) {
-  keepKeyState(*event);
-  QMainWindow::keyPressEvent(event);
+// Keys that are let go over another window are never seen here.
+void frmBrowser::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+    state_.ShiftDown = state_.CtrlDown = false;
+  QMainWindow::changeEvent(event);
 }
 
-void frmBrowser::keyReleaseEvent(QKeyEvent* event) {
-  keepKeyState(*event);
-  QMainWindow::keyReleaseEvent(event);
-}
-
-void frmBrowser::keepKeyState(const QKeyEvent& event) {
-  state_.ShiftDown = event.modifiers().testFlag(Qt::ShiftModifier);
-  state_.CtrlDown = event.modifiers().testFlag(Qt::ControlModifier);
+bool frmBrowser::Form_KeyDown(const QKeyEvent& key) {
+  if (key.key() == Qt::Key_F2 && SelectedCount == 1)
+    ui_->mnuFileItem_5->trigger();
+  else if (key.key() == Qt::Key_Delete && ui_->btnDelete->isEnabled() &&
+           !ui_->txtRename->isVisible())
+    ui_->btnDelete->click();
+  else
+    return false;
+  return true;
 }
 
 }  // namespace quillane

@@ -120,15 +120,14 @@ void frmBrowser::btnEdit_Click() {
 }
 
 void frmBrowser::makePaneMenus() {
-  mnuPopup_->addAction(u"Vistrel &Capture..."_s);
-  mnuPopup_->addAction(u"E&xtract Image..."_s);
-  mnuPopup3_->addAction(u"Vistrel &Capture..."_s);
-  for (const ExtractItem3G& item : extractItems3G())
-    mnuPopup3_->addAction(QLatin1String(item.caption));
-  // The forms behind the items are still to come.
+  // The capture wizard is still to come.
   for (QMenu* menu : {mnuPopup_, mnuPopup3_})
-    for (QAction* item : menu->actions())
-      item->setEnabled(false);
+    menu->addAction(u"Vistrel &Capture..."_s)->setEnabled(false);
+  connect(mnuPopup_->addAction(u"E&xtract Image..."_s), &QAction::triggered, this,
+          [this] { run("mnuPopupItem_Click"_L1, [this] { mnuPopupItem_Extract(); }); });
+  for (const ExtractItem3G& item : extractItems3G())
+    connect(mnuPopup3_->addAction(QLatin1String(item.caption)), &QAction::triggered, this,
+            [this, &item] { run("mnuPopup3Item_Click"_L1, [&] { mnuPopup3Item_Extract(item); }); });
 }
 
 bool frmBrowser::offersPaneMenu() const {
