@@ -181,6 +181,7 @@ class Operation {
   QList<qint64> weights_;  ///< What each source counts in the progress.
   qint64 done_ = 0;        ///< With the sources before this one.
   qint64 all_ = 0;
+  qsizetype kept_ = 0;  ///< Files that the trash refused and the watcher did not give up.
   bool left_ = false;
 };
 
@@ -204,6 +205,7 @@ FileOperationResult Operation::run() {
     }
     done_ += weights_[i];
   }
+  if (kept_ != 0 && kept_ == sources_.size()) result_.aborted = true;  // Nothing happened.
   return result_;
 }
 
@@ -257,7 +259,7 @@ bool Operation::trash(const QString& source) {
   if (watcher_.deleteForGood(source, reason, left_))
     check(removeFile(source), kDeleting, source);
   else
-    result_.aborted = true;
+    ++kept_;
   return true;
 }
 

@@ -38,7 +38,7 @@ class FileOperationWatcher {
 
 /// How an operation ended.
 struct FileOperationResult {
-  bool aborted = false;  ///< The watcher stopped it, or kept a file that the trash refused.
+  bool aborted = false;  ///< The watcher stopped it, or kept every file from a trash that refused.
   bool failed = false;   ///< A file could not be worked on.
 };
 
