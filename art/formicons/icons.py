@@ -6,7 +6,7 @@ import math
 
 import parts
 from pixel import (AMBER, BLUE, DISABLED, GREEN, METAL, RED, Canvas, disc,
-                   flipped, mirrored)
+                   flipped, mirrored, turned)
 
 ICONS = {}
 
@@ -616,6 +616,65 @@ def stretch():
         ..DeGGGD
         .DDDDDDD
         """, 7, 7)
+
+
+@icon(149)
+def shrink():
+    canvas = Canvas(16)
+    for place in (0, 1, 4, 5, 8, 9, 12, 13):
+        for x, y in ((place + 1, 0), (0, place + 1), (15, place + 1), (place + 1, 15)):
+            canvas.put(x, y, "g")
+    canvas.stamp(parts.TINY_PICTURE, 1, 1)
+    return canvas.stamp("""
+        DDDDDDD..
+        DGGGeD...
+        DGGeD....
+        DGeeGD...
+        DeDGeGD..
+        DD.DGeGD.
+        D...DGeGD
+        .....DeD.
+        ......D..
+        """, 7, 7)
+
+
+@icon(150)
+def mirror():
+    canvas = Canvas(16).solid(turned(WEDGE), "NBbb", 0, 0)
+    canvas.solid(mirrored(turned(WEDGE)), "giWW", 9, 0)
+    return axis(canvas, 7, 0, 0, 1)
+
+
+def screen_with_border(width):
+    canvas = Canvas(16)
+    if width:
+        for place in range(16):
+            for layer in range(width):
+                for x, y in ((place, layer), (place, 15 - layer), (layer, place), (15 - layer, place)):
+                    canvas.put(x, y, "i")
+    for place in range(16):
+        for x, y in ((place, 0), (place, 15), (0, place), (15, place)):
+            if width:
+                canvas.put(x, y, "g")
+    for y in range(width, 16 - width):
+        for x in range(width, 16 - width):
+            canvas.put(x, y, "b" if y < 9 else "G")
+    return canvas
+
+
+@icon(151)
+def no_border():
+    return screen_with_border(0)
+
+
+@icon(152)
+def single_border():
+    return screen_with_border(1)
+
+
+@icon(153)
+def default_border():
+    return screen_with_border(4)
 
 
 @icon(126)

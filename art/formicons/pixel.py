@@ -59,6 +59,10 @@ def flipped(picture):
     return "\n".join(reversed(rows_of(picture)))
 
 
+def turned(picture):
+    return "\n".join("".join(column) for column in zip(*rows_of(picture)))
+
+
 class Canvas:
     def __init__(self, width, height=None):
         self.width = width

@@ -41,31 +41,14 @@ constexpr MenuRule kMenuRules[] = {
     {"mnuToolsItem_1", true, false, true}, {"mnuToolsItem_2", true, false, false},
 };
 
-// The forms and file operations behind these are still to come.
-constexpr const char* kAwaited[] = {
-    "btnProperties",
-    "btnExport",
-    "btnCopy",
-    "btnMove",
-    "btnDelete",
-    "btnIRSend",
-    "mnuFileItem_3",
-    "mnuFileItem_5",
-    "mnuFileItem_6",
-    "mnuFileItem_8",
-    "mnuEditItem_3",
-    "mnuEditItem_4",
-    "mnuEditItem_9",
-    "mnuToolsItem_1",
-    "mnuToolsItem_2",
-    "mnuToolsItem_4",
-    "mnuToolsItem_5",
-    "mnuHelpItem_1",
-    "mnuHelpItemInternet_1",
-    "mnuHelpItem_5",
-    "mnuHelpItem_3",
-    "mnuHelpItemInternet_2",
-};
+// The form behind it is still to come.
+constexpr const char* kAwaited[] = {"mnuEditItem_9"};
+
+bool isAwaited(const char* item) {
+  return std::any_of(std::begin(kAwaited), std::end(kAwaited), [&](const char* awaited) {
+    return QLatin1String(awaited) == QLatin1String(item);
+  });
+}
 
 bool isOn(const MenuRule& rule, int selectedCount, bool themeFailed) {
   if (selectedCount > 1) return rule.several;
@@ -79,25 +62,16 @@ void dressButtons(QWidget& browser) {
   browser.findChild<QToolButton*>(u"btnDropDown"_s)->setIcon(tightFormIcon(kDropDownPicture));
 }
 
-bool isCommandThere(const QString& control) {
-  return std::none_of(std::begin(kAwaited), std::end(kAwaited),
-                      [&](const char* awaited) { return control == QLatin1String(awaited); });
-}
-
 void enableMenuItems(QWidget& browser, int selectedCount, bool themeFailed) {
   for (const MenuRule& rule : kMenuRules) {
-    const QString name = QLatin1String(rule.item);
-    browser.findChild<QAction*>(name)->setEnabled(isCommandThere(name) &&
-                                                  isOn(rule, selectedCount, themeFailed));
+    const bool on = !isAwaited(rule.item) && isOn(rule, selectedCount, themeFailed);
+    browser.findChild<QAction*>(QLatin1String(rule.item))->setEnabled(on);
   }
 }
 
 void disableAwaited(QWidget& browser) {
-  for (const char* awaited : kAwaited) {
-    const QString name = QLatin1String(awaited);
-    if (auto* widget = browser.findChild<QWidget*>(name)) widget->setEnabled(false);
-    if (auto* action = browser.findChild<QAction*>(name)) action->setEnabled(false);
-  }
+  for (const char* awaited : kAwaited)
+    browser.findChild<QAction*>(QLatin1String(awaited))->setEnabled(false);
 }
 
 }  // namespace quillane

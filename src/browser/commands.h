@@ -12,15 +12,11 @@ namespace quillane {
 /// Gives the buttons of the browser's tool row their pictures.
 void dressButtons(QWidget& browser);
 
-/// Whether the command of a button or menu item of the browser, by its `objectName`, can be run in
-/// this version. One that cannot stays disabled whatever is selected.
-bool isCommandThere(const QString& control);
-
 /// Enables the menu items that follow the selection: how many themes are selected, and whether the
 /// only one could not be shown.
 void enableMenuItems(QWidget& browser, int selectedCount, bool themeFailed);
 
-/// Disables every button and menu item whose command is not there.
+/// Disables every menu item whose command cannot be run in this version, whatever is selected.
 void disableAwaited(QWidget& browser);
 
 }  // namespace quillane

@@ -3,6 +3,7 @@
 #include "browser/frmbrowser.h"
 
 #include "browser/commands.h"
+#include "browser/frmproperties.h"
 #include "forms/bevel.h"
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
@@ -10,6 +11,7 @@
 #include "shell/files.h"
 #include "shell/settings.h"
 #include "shell/state.h"
+#include "tools/frmcapturewiz.h"
 #include "ui_frmbrowser.h"
 
 #include <QCloseEvent>
@@ -83,6 +85,7 @@ void frmBrowser::Form_Load(const QString& commandLine) {
   if (!path.isEmpty() && FolderExists(folder)) state_.BrowseFolder = withSeparator(folder);
 
   dressButtons(*this);
+  ui_->mnuToolsItem_4->setEnabled(state_.IViewPresent);
   makePaneMenus();
   Tips = std::make_unique<cTooltips>(ui_->picToolTip);
   ui_->filFiles->setEnding(u".thm"_s);
@@ -152,6 +155,7 @@ void frmBrowser::closeEvent(QCloseEvent* event) {
 
 void frmBrowser::Form_Unload() {
   Tips.reset();
+  captureWizard_.reset();
   state_.PreviewEngine2.reset();
   state_.EditorEngine2.reset();
   DeleteFiles(state_.AppTempFolder + "*.*"_L1);
@@ -161,19 +165,22 @@ void frmBrowser::Form_Unload() {
                  [this] { settings_.flush(); });
 }
 
-void frmBrowser::keyPressEvent(QKeyEvent* event) {
-  keepKeyState(*event);
-  QMainWindow::keyPressEvent(event);
+// Keys that are let go over another window are never seen here.
+void frmBrowser::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+    state_.ShiftDown = state_.CtrlDown = false;
+  QMainWindow::changeEvent(event);
 }
 
-void frmBrowser::keyReleaseEvent(QKeyEvent* event) {
-  keepKeyState(*event);
-  QMainWindow::keyReleaseEvent(event);
-}
-
-void frmBrowser::keepKeyState(const QKeyEvent& event) {
-  state_.ShiftDown = event.modifiers().testFlag(Qt::ShiftModifier);
-  state_.CtrlDown = event.modifiers().testFlag(Qt::ControlModifier);
+bool frmBrowser::Form_KeyDown(const QKeyEvent& key) {
+  if (key.key() == Qt::Key_F2 && SelectedCount == 1)
+    ui_->mnuFileItem_5->trigger();
+  else if (key.key() == Qt::Key_Delete && ui_->btnDelete->isEnabled() &&
+           !ui_->txtRename->isVisible())
+    ui_->btnDelete->click();
+  else
+    return false;
+  return true;
 }
 
 }  // namespace quillane

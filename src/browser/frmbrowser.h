@@ -7,11 +7,13 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <span>
 
 class QAction;
 class QMenu;
+class QUrl;
 
 namespace Ui {
 class frmBrowser;
@@ -24,6 +26,9 @@ class Dialogs;
 class PictureBox;
 class PreviewWorld;
 class SettingsStore;
+class frmCaptureWiz;
+class frmProperties;
+struct ExtractItem3G;
 struct PublicState;
 struct ThemeError;
 template <class Engine>
@@ -43,21 +48,21 @@ class frmBrowser : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void keyReleaseEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   /// Runs the procedure of an event, as in "btnHome_Click"; its fault becomes a message.
-  void run(const QString& event, void (frmBrowser::*procedure)());
-  void keepKeyState(const QKeyEvent& event);
+  void run(QLatin1String event, const std::function<void()>& procedure);
 
   void connectSignals();
-  void connectButtons();
+  void connectCommands();
   void connectMenus();
   void connectPanes();
   void Form_Load(const QString& commandLine);
   void Form_Paint(Bevel& bevel);
   void Form_Unload();
+  /// True when the key was a command.
+  bool Form_KeyDown(const QKeyEvent& key);
   void selectFromCommandLine(const QString& commandLine, const QString& path);
 
   // Selection (frmbrowser_selection.cpp).
@@ -75,7 +80,6 @@ class frmBrowser : public QMainWindow {
   qint64 selectedBytes() const;
   void clearTip();
   void ClearPreview();
-  void enable(QWidget* control, bool on);
   void enableNavigation(bool previous, bool next);
   void enableCopying(bool on);
   void updateMenus();
@@ -96,6 +100,31 @@ class frmBrowser : public QMainWindow {
   void showCaption();
   void showThemeCount();
 
+  // Theme files (frmbrowser_files.cpp).
+  QStringList selectedPaths() const;
+  bool askCopyMoveFolder(const QString& prompt);
+  void btnCopy_Click();
+  void btnMove_Click();
+  void btnDelete_Click();
+  /// Goes on after files have left the list.
+  void AfterRemoval();
+  void StartRename();
+  void txtRename_Enter();
+  void renameTheme(const QString& name);
+
+  // What leaves the program (frmbrowser_desktop.cpp).
+  void btnExport_Click();
+  void mnuPopupItem_Extract();
+  void mnuPopup3Item_Extract(const ExtractItem3G& item);
+  void extractImage(const QString& image);
+  void btnIRSend_Click();
+  void btnProperties_Click();
+  void mnuHelpItem_Contents();
+  void mnuHelpItemInternet_HomePage();
+  void mnuHelpItemInternet_Forums();
+  void mnuHelpItem_About();
+  void showPage(const QUrl& page);
+
   // Panes (frmbrowser_panes.cpp).
   void LoadTheme();
   template <class Engine>
@@ -108,6 +137,13 @@ class frmBrowser : public QMainWindow {
   void btnNew_Click();
   void btnEdit_Click();
   void btnPreviewAll_Click();
+  void mnuToolsItem_Capture();
+  void mnuToolsItem_ImageWizard();
+  void mnuToolsItem_TarWizard();
+  /// Opens the capture wizard on the pane of `CapturePane`.
+  void showCaptureWizard();
+  /// What a pane of the generation on show shows, by its `CapturePane`.
+  QImage panePicture(int pane);
   bool offersPaneMenu() const;
   void showPaneMenu2(std::size_t pane, QPoint place);
   void showPaneMenu3G(std::size_t pane, QPoint place);
@@ -128,6 +164,8 @@ class frmBrowser : public QMainWindow {
   std::unique_ptr<cTooltips> Tips;
   QString xml_;  ///< Of the XML view, which takes it when it is open.
   bool unloaded_ = false;
+  std::unique_ptr<frmCaptureWiz> captureWizard_;  ///< Once it was used.
+  std::unique_ptr<frmProperties> properties_;     ///< Once it was used.
 
   QMenu* mnuPopup_;   ///< Of generation 2's panes.
   QMenu* mnuPopup3_;  ///< Of the 3G panes.

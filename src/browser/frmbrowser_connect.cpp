@@ -7,76 +7,107 @@
 #include "forms/eventprocedure.h"
 #include "forms/filelistbox.h"
 #include "forms/formarea.h"
+#include "forms/keypreview.h"
 #include "forms/picturebox.h"
 #include "ui_frmbrowser.h"
 
 #include <QMenu>
 
+#include <algorithm>
+
 namespace quillane {
 
 using namespace Qt::StringLiterals;
 
-void frmBrowser::run(const QString& event, void (frmBrowser::*procedure)()) {
-  eventProcedure(dialogs_, this, u"in Quillane.frmBrowser.%1 "_s.arg(event),
-                 [this, procedure] { (this->*procedure)(); });
+namespace {
+
+// These two call their form by a shorter name.
+constexpr QLatin1String kShortTagged[] = {"btnMove_Click"_L1, "txtRename_KeyPress"_L1};
+
+QString tagOf(QLatin1String event) {
+  const bool isShort =
+      std::find(std::begin(kShortTagged), std::end(kShortTagged), event) != std::end(kShortTagged);
+  return u"in Quillane.%1.%2 "_s.arg(isShort ? "frmBrowse"_L1 : "frmBrowser"_L1, event);
+}
+
+}  // namespace
+
+void frmBrowser::run(QLatin1String event, const std::function<void()>& procedure) {
+  eventProcedure(dialogs_, this, tagOf(event), procedure);
 }
 
 void frmBrowser::connectSignals() {
+  new KeyPreview(*this, state_, [this](const QKeyEvent& key) { return Form_KeyDown(key); });
   connect(ui_->area, &FormArea::Paint, this, &frmBrowser::Form_Paint);
   connect(ui_->filFiles, &FileListBox::Click, this,
-          [this] { run(u"filFiles_Click"_s, &frmBrowser::filFiles_Click); });
+          [this] { run("filFiles_Click"_L1, [this] { filFiles_Click(); }); });
   connect(ui_->filFiles, &FileListBox::DblClick, ui_->btnEdit, &QAbstractButton::click);
   connect(ui_->filFiles, &FileListBox::PathChange, this, &frmBrowser::filFiles_PathChange);
-  connectButtons();
-  connectMenus();
+  connect(ui_->txtRename, &QLineEdit::returnPressed, this,
+          [this] { run("txtRename_KeyPress"_L1, [this] { txtRename_Enter(); }); });
+  connect(mnuPopup2_, &QMenu::triggered, this, &frmBrowser::mnuPopup2Item_Click);
+  connectCommands();
   connectPanes();
+  connectMenus();
   disableAwaited(*this);
 }
 
-void frmBrowser::connectButtons() {
-  using Procedure = void (frmBrowser::*)();
-  const std::pair<QAbstractButton*, Procedure> rows[] = {
-      {ui_->btnBrowse, &frmBrowser::btnBrowse_Click},
-      {ui_->btnDropDown, &frmBrowser::btnDropDown_Click},
-      {ui_->btnHome, &frmBrowser::btnHome_Click},
-      {ui_->btnPrev, &frmBrowser::btnPrev_Click},
-      {ui_->btnNext, &frmBrowser::btnNext_Click},
-      {ui_->btnRefresh, &frmBrowser::btnRefresh_Click},
-      {ui_->btnNew, &frmBrowser::btnNew_Click},
-      {ui_->btnEdit, &frmBrowser::btnEdit_Click},
-      {ui_->btnClipboardCopy, &frmBrowser::btnClipboardCopy_Click},
-      {ui_->btnViewXML, &frmBrowser::btnViewXML_Click},
-      {ui_->btnPreviewAll, &frmBrowser::btnPreviewAll_Click},
+void frmBrowser::connectCommands() {
+  struct Command {
+    QLatin1String event;
+    void (frmBrowser::*procedure)();
+    QAbstractButton* button;
+    QAction* item;
   };
-  for (const auto& [button, procedure] : rows)
-    connect(button, &QAbstractButton::clicked, this,
-            [this, event = button->objectName() + "_Click"_L1, procedure = procedure] {
-              run(event, procedure);
-            });
+  const Command commands[] = {
+      {"btnBrowse_Click"_L1, &frmBrowser::btnBrowse_Click, ui_->btnBrowse, ui_->mnuNaviItem_5},
+      {"btnDropDown_Click"_L1, &frmBrowser::btnDropDown_Click, ui_->btnDropDown, nullptr},
+      {"btnHome_Click"_L1, &frmBrowser::btnHome_Click, ui_->btnHome, ui_->mnuNaviItem_4},
+      {"btnPrev_Click"_L1, &frmBrowser::btnPrev_Click, ui_->btnPrev, ui_->mnuNaviItem_1},
+      {"btnNext_Click"_L1, &frmBrowser::btnNext_Click, ui_->btnNext, ui_->mnuNaviItem_2},
+      {"btnRefresh_Click"_L1, &frmBrowser::btnRefresh_Click, ui_->btnRefresh, ui_->mnuViewItem_3},
+      {"btnNew_Click"_L1, &frmBrowser::btnNew_Click, ui_->btnNew, ui_->mnuFileItem_1},
+      {"btnEdit_Click"_L1, &frmBrowser::btnEdit_Click, ui_->btnEdit, ui_->mnuFileItem_2},
+      {"btnProperties_Click"_L1, &frmBrowser::btnProperties_Click, ui_->btnProperties,
+       ui_->mnuFileItem_8},
+      {"btnExport_Click"_L1, &frmBrowser::btnExport_Click, ui_->btnExport, ui_->mnuFileItem_3},
+      {"btnClipboardCopy_Click"_L1, &frmBrowser::btnClipboardCopy_Click, ui_->btnClipboardCopy,
+       ui_->mnuEditItem_1},
+      {"btnCopy_Click"_L1, &frmBrowser::btnCopy_Click, ui_->btnCopy, ui_->mnuEditItem_3},
+      {"btnMove_Click"_L1, &frmBrowser::btnMove_Click, ui_->btnMove, ui_->mnuEditItem_4},
+      {"btnDelete_Click"_L1, &frmBrowser::btnDelete_Click, ui_->btnDelete, ui_->mnuFileItem_6},
+      {"StartRename"_L1, &frmBrowser::StartRename, nullptr, ui_->mnuFileItem_5},
+      {"mnuEditItem_Click"_L1, &frmBrowser::mnuEditItem_SelectAll, nullptr, ui_->mnuEditItem_6},
+      {"mnuEditItem_Click"_L1, &frmBrowser::mnuEditItem_Invert, nullptr, ui_->mnuEditItem_7},
+      {"btnViewXML_Click"_L1, &frmBrowser::btnViewXML_Click, ui_->btnViewXML, nullptr},
+      {"mnuViewItem_Click"_L1, &frmBrowser::mnuViewItem_SourceXml, nullptr, ui_->mnuViewItem_1},
+      {"btnIRSend_Click"_L1, &frmBrowser::btnIRSend_Click, ui_->btnIRSend, ui_->mnuToolsItem_1},
+      {"mnuToolsItem_Click"_L1, &frmBrowser::mnuToolsItem_Capture, nullptr, ui_->mnuToolsItem_2},
+      {"mnuToolsItem_Click"_L1, &frmBrowser::mnuToolsItem_ImageWizard, nullptr,
+       ui_->mnuToolsItem_4},
+      {"mnuToolsItem_Click"_L1, &frmBrowser::mnuToolsItem_TarWizard, nullptr, ui_->mnuToolsItem_5},
+      {"btnPreviewAll_Click"_L1, &frmBrowser::btnPreviewAll_Click, ui_->btnPreviewAll, nullptr},
+      {"mnuHelpItem_Click"_L1, &frmBrowser::mnuHelpItem_Contents, nullptr, ui_->mnuHelpItem_1},
+      {"mnuHelpItemInternet_Click"_L1, &frmBrowser::mnuHelpItemInternet_HomePage, nullptr,
+       ui_->mnuHelpItemInternet_1},
+      {"mnuHelpItemInternet_Click"_L1, &frmBrowser::mnuHelpItemInternet_Forums, nullptr,
+       ui_->mnuHelpItemInternet_2},
+      {"mnuHelpItem_Click"_L1, &frmBrowser::mnuHelpItem_About, nullptr, ui_->mnuHelpItem_5},
+  };
+  for (const Command& command : commands) {
+    const auto runCommand = [this, command] {
+      run(command.event, [&] { (this->*command.procedure)(); });
+    };
+    if (command.button) connect(command.button, &QAbstractButton::clicked, this, runCommand);
+    if (command.item) connect(command.item, &QAction::triggered, this, runCommand);
+  }
+  connect(ui_->mnuFileItem_10, &QAction::triggered, this, &QWidget::close);
 }
 
+// The box would stand over a list that a menu's command changes.
 void frmBrowser::connectMenus() {
-  using Procedure = void (frmBrowser::*)();
-  const std::pair<QAction*, Procedure> rows[] = {
-      {ui_->mnuFileItem_1, &frmBrowser::btnNew_Click},
-      {ui_->mnuFileItem_2, &frmBrowser::btnEdit_Click},
-      {ui_->mnuEditItem_1, &frmBrowser::btnClipboardCopy_Click},
-      {ui_->mnuEditItem_6, &frmBrowser::mnuEditItem_SelectAll},
-      {ui_->mnuEditItem_7, &frmBrowser::mnuEditItem_Invert},
-      {ui_->mnuViewItem_1, &frmBrowser::mnuViewItem_SourceXml},
-      {ui_->mnuViewItem_3, &frmBrowser::btnRefresh_Click},
-      {ui_->mnuNaviItem_1, &frmBrowser::btnPrev_Click},
-      {ui_->mnuNaviItem_2, &frmBrowser::btnNext_Click},
-      {ui_->mnuNaviItem_4, &frmBrowser::btnHome_Click},
-      {ui_->mnuNaviItem_5, &frmBrowser::btnBrowse_Click},
-  };
-  for (const auto& [item, procedure] : rows)
-    connect(item, &QAction::triggered, this,
-            [this, event = item->objectName() + "_Click"_L1, procedure = procedure] {
-              run(event, procedure);
-            });
-  connect(ui_->mnuFileItem_10, &QAction::triggered, this, &QWidget::close);
-  connect(mnuPopup2_, &QMenu::triggered, this, &frmBrowser::mnuPopup2Item_Click);
+  for (QMenu* menu : findChildren<QMenu*>())
+    connect(menu, &QMenu::aboutToShow, ui_->txtRename, &QWidget::hide);
 }
 
 void frmBrowser::connectPanes() {

@@ -78,7 +78,7 @@ void frmBrowser::btnRefresh_Click() {
   ThemeFailed = false;
   enableCopying(false);
   enableNavigation(false, false);
-  enable(ui_->btnIRSend, false);
+  ui_->btnIRSend->setEnabled(false);
   showThemeCount();
   ui_->lblSize->clear();
   clearTip();

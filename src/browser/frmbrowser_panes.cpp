@@ -13,7 +13,10 @@
 #include "shell/state.h"
 #include "theme/archive.h"
 #include "theme/load.h"
+#include "tools/frmcapturewiz.h"
+#include "tools/frmimagewiz.h"
 #include "tools/frmpreviewall.h"
+#include "tools/frmtarwizard.h"
 #include "ui_frmbrowser.h"
 
 #include <QClipboard>
@@ -119,16 +122,42 @@ void frmBrowser::btnEdit_Click() {
   editTheme(this, {state_, settings_, dialogs_, world_});
 }
 
+void frmBrowser::mnuToolsItem_Capture() {
+  state_.CapturePane = 1;
+  showCaptureWizard();
+}
+
+void frmBrowser::mnuToolsItem_ImageWizard() {
+  showImageWizard(this, state_, dialogs_);
+}
+
+void frmBrowser::mnuToolsItem_TarWizard() {
+  showTarWizard(this, state_, dialogs_);
+}
+
+void frmBrowser::showCaptureWizard() {
+  if (!captureWizard_)
+    captureWizard_ = std::make_unique<frmCaptureWiz>(
+        this, state_, dialogs_, [this](int pane) { return panePicture(pane); });
+  captureWizard_->capture();
+}
+
+QImage frmBrowser::panePicture(int pane) {
+  const auto row = static_cast<std::size_t>(pane - 1);
+  const char* name = state_.ThemeGeneration == Generation::ThreeG ? paneMenus3G()[row].pane
+                                                                  : paneMenus2()[row].pane;
+  return findChild<PictureBox*>(QLatin1String(name))->surface().image();
+}
+
 void frmBrowser::makePaneMenus() {
-  mnuPopup_->addAction(u"Vistrel &Capture..."_s);
-  mnuPopup_->addAction(u"E&xtract Image..."_s);
-  mnuPopup3_->addAction(u"Vistrel &Capture..."_s);
-  for (const ExtractItem3G& item : extractItems3G())
-    mnuPopup3_->addAction(QLatin1String(item.caption));
-  // The forms behind the items are still to come.
   for (QMenu* menu : {mnuPopup_, mnuPopup3_})
-    for (QAction* item : menu->actions())
-      item->setEnabled(false);
+    connect(menu->addAction(u"Vistrel &Capture..."_s), &QAction::triggered, this,
+            &frmBrowser::showCaptureWizard);
+  connect(mnuPopup_->addAction(u"E&xtract Image..."_s), &QAction::triggered, this,
+          [this] { run("mnuPopupItem_Click"_L1, [this] { mnuPopupItem_Extract(); }); });
+  for (const ExtractItem3G& item : extractItems3G())
+    connect(mnuPopup3_->addAction(QLatin1String(item.caption)), &QAction::triggered, this,
+            [this, &item] { run("mnuPopup3Item_Click"_L1, [&] { mnuPopup3Item_Extract(item); }); });
 }
 
 bool frmBrowser::offersPaneMenu() const {

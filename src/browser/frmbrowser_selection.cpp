@@ -46,7 +46,7 @@ void frmBrowser::enableForOneTheme() {
   for (QWidget* button : std::initializer_list<QWidget*>{
            ui_->btnEdit, ui_->btnExport, ui_->btnCopy, ui_->btnMove, ui_->btnDelete,
            ui_->btnProperties, ui_->btnIRSend, ui_->btnClipboardCopy})
-    enable(button, true);
+    button->setEnabled(true);
   enableNavigation(state_.SelectedIndex >= 1,
                    state_.SelectedIndex != ui_->filFiles->listCount() - 1);
 }
@@ -81,7 +81,7 @@ void frmBrowser::showThemeResult() {
 
 void frmBrowser::showFailure() {
   ClearPreview();
-  enable(ui_->btnIRSend, false);
+  ui_->btnIRSend->setEnabled(false);
   dialogs_.beep();
   ThemeFailed = true;
 }
@@ -152,12 +152,8 @@ void frmBrowser::ClearPreview() {
   enableNavigation(false, false);
   for (QWidget* button : std::initializer_list<QWidget*>{ui_->btnEdit, ui_->btnExport,
                                                          ui_->btnClipboardCopy, ui_->btnProperties})
-    enable(button, false);
+    button->setEnabled(false);
   ui_->lblSize->clear();
-}
-
-void frmBrowser::enable(QWidget* control, bool on) {
-  control->setEnabled(on && isCommandThere(control->objectName()));
 }
 
 void frmBrowser::enableNavigation(bool previous, bool next) {
@@ -169,7 +165,7 @@ void frmBrowser::enableNavigation(bool previous, bool next) {
 
 void frmBrowser::enableCopying(bool on) {
   for (QWidget* button : {ui_->btnMove, ui_->btnCopy, ui_->btnDelete})
-    enable(button, on);
+    button->setEnabled(on);
 }
 
 void frmBrowser::updateMenus() {

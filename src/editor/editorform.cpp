@@ -70,8 +70,7 @@ void EditorForm::Form_Load(bool openExisting) {
   });
   showCaption();
   clearImageInformation();
-  // The wizard behind it is still to come.
-  ui_->btnImageWizard->setEnabled(false);
+  ui_->btnImageWizard->setEnabled(desk_.state.IViewPresent);
   btnTabs_[0]->setFocus();
 }
 

@@ -9,6 +9,7 @@
 #include "forms/picturebox.h"
 #include "preview/previewengine.h"
 #include "shell/state.h"
+#include "tools/frmimagewiz.h"
 #include "ui_editorform.h"
 
 #include <QGridLayout>
@@ -239,6 +240,7 @@ void EditorForm::connectSignals() {
       {ui_->btnImport, [this] { btnImport_Click(); }},
       {ui_->btnRemoveAll, [this] { btnRemoveAll_Click(); }},
       {ui_->btnAutoSelect, [this] { btnAutoSelect_Click(); }},
+      {ui_->btnImageWizard, [this] { showImageWizard(this, desk_.state, desk_.dialogs); }},
       {ui_->btnClose, [this] { close(); }},
   };
   for (const auto& [button, procedure] : rows) {

@@ -56,7 +56,24 @@ void show(QMessageBox& box) {
 constexpr qsizetype kLongestText = 20000;
 constexpr qsizetype kLongestLine = 1000;
 constexpr qsizetype kMostLines = 20;
+constexpr qsizetype kLongestWord = 50;
 const QChar kCut(0x2026);
+const QChar kMayBreak(0x200B);
+
+/// A text for a box, where a long word without a blank, as names of files are, may be broken.
+QString boxText(const QString& text) {
+  QString broken;
+  qsizetype length = 0;
+  for (const QChar character : widgetText(text)) {
+    length = character.isSpace() || character == u'/' ? 0 : length + 1;
+    if (length > kLongestWord && !character.isLowSurrogate() && !character.isMark()) {
+      broken += kMayBreak;
+      length = 1;
+    }
+    broken += character;
+  }
+  return broken;
+}
 
 }  // namespace
 
@@ -78,12 +95,12 @@ QString titleText(QString text) {
 
 void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& title,
                              const QString& text) {
-  QMessageBox box(iconOf(icon), title, widgetText(text), QMessageBox::Ok, owner);
+  QMessageBox box(iconOf(icon), title, boxText(text), QMessageBox::Ok, owner);
   show(box);
 }
 
 Answer DesktopDialogs::ask(QWidget* owner, const Question& question) {
-  QMessageBox box(iconOf(question.icon), question.title, widgetText(question.text),
+  QMessageBox box(iconOf(question.icon), question.title, boxText(question.text),
                   QMessageBox::NoButton, owner);
   QList<QAbstractButton*> buttons;
   // The role of none keeps the order in which the buttons are told.
@@ -114,6 +131,11 @@ bool DesktopDialogs::chooseFile(QWidget* owner, clsOpenSave& request, FileQuesti
   const QStringList filters = nameFilters(request.Filter);
   dialog.setNameFilters(filters);
   dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
+  // A name typed without an ending gets that of the kind that was chosen.
+  QObject::connect(&dialog, &QFileDialog::filterSelected, [&](const QString& chosen) {
+    const QString ending = chosen.section(u"(*."_s, 1, 1).chopped(1);
+    if (ending != u"*"_s) dialog.setDefaultSuffix(ending);
+  });
   // A pattern offers no file.
   if (!request.FileName.contains(u'*')) dialog.selectFile(request.FileName);
   if (dialog.exec() != QDialog::Accepted) return false;

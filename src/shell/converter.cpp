@@ -9,16 +9,24 @@
 #include "theme/files.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImageWriter>
 #include <QPainter>
 
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace quillane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::pair<QLatin1String, PictureKind> kEndings[] = {
+    {"gif"_L1, PictureKind::Gif}, {"jpg"_L1, PictureKind::Jpeg}, {"jpeg"_L1, PictureKind::Jpeg},
+    {"png"_L1, PictureKind::Png}, {"bmp"_L1, PictureKind::Bmp},
+};
 
 /// A number of the INI file between two bounds; what is no number or lies outside gives the
 /// standard.
@@ -78,6 +86,14 @@ QByteArray bytesOf(const QImage& picture, PictureKind kind, const QString& quali
 bool canConvert() {
   const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
   return formats.contains("jpeg") && formats.contains("png");
+}
+
+PictureKind convertedKind(PictureKind offered, const QString& path) {
+  if (offered == PictureKind::Gif || offered == PictureKind::Bmp) return offered;
+  const QString ending = QFileInfo(path).suffix().toLower();
+  const auto* known = std::find_if(std::begin(kEndings), std::end(kEndings),
+                                   [&](const auto& row) { return ending == row.first; });
+  return known == std::end(kEndings) ? offered : known->second;
 }
 
 void savePicture(const QImage& picture, const QString& path, PictureKind kind,

@@ -25,27 +25,27 @@ class FileOperationWatcher {
  public:
   virtual ~FileOperationWatcher() = default;
 
-  /// Another file lies where `source` would go.
-  virtual Overwrite targetExists(const QString& source, const QString& target) = 0;
-  /// A file failed, and more are `left`. True to go on with them.
+  /// Another file lies where `source` would go. More files may be `left` after it.
+  virtual Overwrite targetExists(const QString& source, const QString& target, bool left) = 0;
+  /// A file failed. True to go on with those that are `left`, if any.
   virtual bool goOnAfter(const Fault& fault, bool left) = 0;
-  /// The trash cannot take the file. True to delete it for good instead.
-  virtual bool deleteForGood(const QString& path, const QString& reason) = 0;
-  /// The operation works on `path` and has done so much of its bytes (files, where none are
-  /// copied). False to stop.
+  /// The trash cannot take the file. True to delete it for good instead of keeping it.
+  virtual bool deleteForGood(const QString& path, const QString& reason, bool left) = 0;
+  /// The operation works on `path` and has done so much of its bytes; of its files, when it
+  /// deletes. False to stop.
   virtual bool progress(const QString& path, qint64 done, qint64 all) = 0;
 };
 
 /// How an operation ended.
 struct FileOperationResult {
-  bool aborted = false;  ///< The watcher stopped it.
+  bool aborted = false;  ///< The watcher stopped it, or kept every file from a trash that refused.
   bool failed = false;   ///< A file could not be worked on.
 };
 
 /// Works on files, one after the other; folders are faults. `targetFolder` counts for copies and
 /// moves. A file is written beside its target and renamed when it is whole on the disk, keeping
 /// time and permissions; a move across file systems removes the source only then. Moving a file
-/// onto itself changes nothing.
+/// onto itself changes nothing. Throws `Fault` when there is no target folder.
 FileOperationResult runFileOperation(FileVerb verb, const QStringList& sources,
                                      const QString& targetFolder, FileOperationWatcher& watcher);
 

@@ -143,6 +143,7 @@ bool Main(PublicState& state, const SettingsStore& settings, const Places& place
   state.IViewPresent = canConvert();
   setLanguageFiles(state, settings, programFolder);
   state.PalettesFolder = programFolder + "Palettes/"_L1;
+  state.QualitiesFile = programFolder + "add-in/i_view32.ini"_L1;
   state.HelpFolder = withSeparator(places.shippedFolder) + "help/"_L1;
   state.SystemFolder = places.systemFolder;
   screen.setStatus(u"Status: Initializing preview engines..."_s);

@@ -12,8 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Programs of freedesktop systems that take file paths and ask for the phone themselves.
-constexpr const char* kSenders[] = {"bluetooth-sendto", "blueman-sendto"};
+// Programs of freedesktop systems that take file paths and find the phone themselves: two that push
+// over Bluetooth, after asking which phone, and one for machines that still have an infrared port.
+constexpr const char* kSenders[] = {"bluetooth-sendto", "blueman-sendto", "ircp"};
 
 QString programFolder() {
   const QString home = qEnvironmentVariable("QUILLANE_HOME");

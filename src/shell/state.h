@@ -35,6 +35,7 @@ struct PublicState {
   QString LanguageFile3G;      ///< Bare name of the language file of 3G.
   QString PalettesFolder;      ///< Where palette files are looked for.
   QString UserPalette;         ///< Path of the user's palette file, or empty.
+  QString QualitiesFile;       ///< The INI file with the qualities of saved pictures.
   QString HelpFolder;          ///< The pages of the help, as installed.
   QString SystemFolder;        ///< Where the programs of the system lie; no separator at its end.
 

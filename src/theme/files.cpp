@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "theme/files.h"
 
-#include "theme/fault.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -21,16 +19,6 @@ namespace {
 Fault fileFault(FaultNumber number, const QString& words, const QString& path,
                 int line = __builtin_LINE()) {
   return Fault(number, words.arg(QDir::toNativeSeparators(path)), line);
-}
-
-Fault notFound(const QString& path) {
-  return fileFault(FaultNumber::FileNotFound, u"File \"%1\" not found."_s, path);
-}
-
-Fault unreadable(const QString& path) {
-  return QFileInfo(path).isReadable()
-             ? fileFault(FaultNumber::DeviceFault, u"File \"%1\" could not be read."_s, path)
-             : fileFault(FaultNumber::NoPermission, u"No permission to read \"%1\"."_s, path);
 }
 
 Fault unwritable(const QString& path, qint64 size) {
@@ -58,6 +46,18 @@ QByteArray readBy(const QString& path, Read read) {
 }
 
 }  // namespace
+
+Fault notFound(const QString& path, int line) {
+  return fileFault(FaultNumber::FileNotFound, u"File \"%1\" not found."_s, path, line);
+}
+
+Fault unreadable(const QString& path, int line) {
+  const QFileInfo file(path);
+  if (!file.exists()) return notFound(path, line);
+  return file.isReadable()
+             ? fileFault(FaultNumber::DeviceFault, u"File \"%1\" could not be read."_s, path, line)
+             : fileFault(FaultNumber::NoPermission, u"No permission to read \"%1\"."_s, path, line);
+}
 
 QByteArray readFile(const QString& path) {
   return readBy(path, [](QFile& file) { return file.readAll(); });

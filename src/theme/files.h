@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "theme/fault.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -19,5 +21,11 @@ void saveFile(const QString& path, const QByteArray& bytes);
 
 /// Size of a regular file in bytes. Throws `Fault` when there is none.
 qint64 fileSize(const QString& path);
+
+/// The fault of a file that is not there.
+Fault notFound(const QString& path, int line = __builtin_LINE());
+
+/// The fault of a file that could not be opened or read, told by what the path leads to.
+Fault unreadable(const QString& path, int line = __builtin_LINE());
 
 }  // namespace quillane

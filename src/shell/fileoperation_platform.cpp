@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/fileoperation_platform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr mode_t kPermissions = 0777;
+
+std::errc asError(int error) {
+  return error == EDQUOT ? std::errc::no_space_on_device : static_cast<std::errc>(error);
+}
+
+/// The outcome of a system call that returns 0 on success.
+std::errc outcome(int returned) {
+  return returned == 0 ? std::errc{} : asError(errno);
+}
+
+/// Whether a disk, rather than this file, is why a call fails: FAT has no permissions, some
+/// network disks cannot flush.
+bool isUnknownToDisk(std::errc error) {
+  return error == std::errc::operation_not_permitted || error == std::errc::not_supported ||
+         error == std::errc::function_not_supported || error == std::errc::invalid_argument;
+}
+
+std::errc unlessUnknownToDisk(std::errc error) {
+  return isUnknownToDisk(error) ? std::errc{} : error;
+}
+
+}  // namespace
+
+std::errc renameFresh(const QString& from, const QString& to) {
+  const QByteArray source = QFile::encodeName(from);
+  const QByteArray target = QFile::encodeName(to);
+  const std::errc error = outcome(
+      ::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE));
+  if (error != std::errc::invalid_argument && error != std::errc::function_not_supported)
+    return error;
+  // This file system only knows the rename that replaces.
+  struct stat found;
+  if (::lstat(target.constData(), &found) == 0) return std::errc::file_exists;
+  return errno == ENOENT ? renameOver(from, to) : asError(errno);
+}
+
+std::errc renameOver(const QString& from, const QString& to) {
+  return outcome(::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()));
+}
+
+std::errc removeFile(const QString& path) {
+  return outcome(::unlink(QFile::encodeName(path).constData()));
+}
+
+std::errc appendBytes(int file, QByteArrayView bytes) {
+  while (!bytes.isEmpty()) {
+    const ssize_t written = ::write(file, bytes.data(), static_cast<std::size_t>(bytes.size()));
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return asError(errno);
+    bytes = bytes.sliced(written);
+  }
+  return {};
+}
+
+std::errc flushFile(int file) {
+  return unlessUnknownToDisk(outcome(::fsync(file)));
+}
+
+std::errc flushFolder(const QString& folder) {
+  const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
+  // One may write into a folder without being allowed to list it.
+  if (file < 0) return errno == EACCES ? std::errc{} : asError(errno);
+  const std::errc error = flushFile(file);
+  ::close(file);
+  return error;
+}
+
+std::errc copyPermissionsAndTime(int from, int to) {
+  struct stat facts;
+  if (::fstat(from, &facts) != 0) return asError(errno);
+  const std::errc error = unlessUnknownToDisk(outcome(::fchmod(to, facts.st_mode & kPermissions)));
+  if (error != std::errc{}) return error;
+  const timespec times[2] = {{0, UTIME_OMIT}, facts.st_mtim};
+  return unlessUnknownToDisk(outcome(::futimens(to, times)));
+}
+
+QString refusalOfTrash(const QString& path) {
+  // Without this folder the trash would be made in the current one.
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  if (!QDir().mkpath(data)) return u"folder \"%1\" cannot be made"_s.arg(data);
+  QFile file(path);
+  if (!file.moveToTrash()) return file.errorString();
+  const QFileInfo moved(file.fileName());
+  if (moved.isAbsolute() && (moved.exists() || moved.isSymLink())) return {};
+  const std::errc error = renameFresh(moved.absoluteFilePath(), path);
+  return error == std::errc{} ? u"the desktop has none"_s
+                              : u"it lies in \"%1\" now"_s.arg(moved.absoluteFilePath());
+}
+
+}  // namespace quillane

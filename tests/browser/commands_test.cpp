@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browserfixture.h"
+
+#include <QWidget>
+
+namespace quillane {
+
+namespace {
+
+using Commands = BrowserTest;
+
+// A column is what was done; each begins with a refreshed list of five themes: good ones, one whose
+// image is missing, one that is no archive and one without XML.
+enum : int { Good = 0, Warned = 2, Damaged = 3, WithoutXml = 4 };
+
+struct Column {
+  const char* what;
+  void (*act)(Commands& test, FileListBox& list, QAction& all, QAction& invert);
+};
+
+const Column kColumns[] = {
+    {"nothing", [](Commands&, FileListBox&, QAction&, QAction&) {}},
+    {"one", [](Commands&, FileListBox& list, QAction&, QAction&) { list.selectOnly(1); }},
+    {"one with a warning",
+     [](Commands&, FileListBox& list, QAction&, QAction&) { list.selectOnly(Warned); }},
+    {"one failed",
+     [](Commands&, FileListBox& list, QAction&, QAction&) { list.selectOnly(Damaged); }},
+    {"one without XML",
+     [](Commands&, FileListBox& list, QAction&, QAction&) { list.selectOnly(WithoutXml); }},
+    {"several at once",
+     [](Commands&, FileListBox& list, QAction&, QAction&) { list.selectEvery(); }},
+    {"several after one",
+     [](Commands&, FileListBox& list, QAction&, QAction&) {
+       list.selectOnly(1);
+       list.setSelected(2, true);
+     }},
+    {"one taken back",
+     [](Commands&, FileListBox& list, QAction&, QAction&) {
+       list.selectOnly(1);
+       list.setSelected(1, false);
+     }},
+    {"all", [](Commands&, FileListBox&, QAction& all, QAction&) { all.trigger(); }},
+    {"all, then none",
+     [](Commands&, FileListBox&, QAction& all, QAction& invert) {
+       all.trigger();
+       invert.trigger();
+     }},
+};
+
+struct Row {
+  const char* controls;
+  const char* on;  // By column.
+};
+
+constexpr Row kRows[] = {
+    {"btnBrowse btnHome btnRefresh btnNew btnViewXML mnuFileItem_1 mnuFileItem_10 mnuEditItem_6 "
+     "mnuEditItem_7 mnuViewItem_1 mnuViewItem_3 mnuNaviItem_4 mnuNaviItem_5 mnuHelpItem_1 "
+     "mnuHelpItem_5 mnuHelpItemInternet_1 mnuHelpItemInternet_2",
+     "1111111111"},
+    {"btnEdit btnExport btnClipboardCopy btnProperties", "011 0 0 0 0 1 0 0"},
+    {"btnPrev btnNext mnuNaviItem_1 mnuNaviItem_2", "011 0 0 0 0 1 0 0"},
+    {"btnCopy btnMove btnDelete", "011 1 1 0 1 1 1 0"},
+    {"btnIRSend", "011 0 0 0 1 1 0 0"},
+    {"mnuFileItem_2 mnuFileItem_3 mnuFileItem_8 mnuEditItem_1", "011 0 0 0 0 0 0 0"},
+    {"mnuFileItem_5", "011 1 0 0 0 0 0 0"},
+    {"mnuFileItem_6 mnuEditItem_3 mnuEditItem_4", "011 1 0 1 1 0 1 0"},
+    {"mnuToolsItem_1", "011 0 0 1 1 0 1 0"},
+};
+
+TEST_F(Commands, FollowTheSelection) {
+  addThemes("ab");
+  addTheme("c.thm", "<Background_image Source=\"gone.gif\"/>");
+  addDamaged("d.thm");
+  packArchive(path("themes/e.thm"), {write("pack/readme.txt", "no theme")});
+  open();
+  auto& all = control<QAction>("mnuEditItem_6");
+  auto& invert = control<QAction>("mnuEditItem_7");
+  for (std::size_t column = 0; column < std::size(kColumns); ++column) {
+    click("btnRefresh");
+    kColumns[column].act(*this, list(), all, invert);
+    for (const Row& row : kRows) {
+      const bool wanted = QString(row.on).remove(' ').at(static_cast<int>(column)) == '1';
+      for (const QString& name : QString(row.controls).split(' ')) {
+        const auto* button = browser->findChild<QWidget*>(name);
+        const auto* item = browser->findChild<QAction*>(name);
+        ASSERT_TRUE(button || item) << name.toStdString();
+        EXPECT_EQ(button ? button->isEnabled() : item->isEnabled(), wanted)
+            << name.toStdString() << ": " << kColumns[column].what;
+      }
+    }
+  }
+}
+
+TEST_F(Commands, ShowPagesAndSayWhenThereIsNone) {
+  state.HelpFolder = path("help/");
+  open();
+  dialogs.expectMessage("The help page \"*");
+  trigger("mnuHelpItem_1");
+  write("help/index.html", "<html>");
+  dialogs.expectPage("file://" + path("help/index.html"));
+  trigger("mnuHelpItem_1");
+  for (const char* item : {"mnuHelpItemInternet_1", "mnuHelpItemInternet_2"}) {
+    dialogs.expectPage(item == std::string("mnuHelpItemInternet_1")
+                           ? "https://quillane.example/"
+                           : "https://quillane.example/forum/");
+    trigger(item);
+  }
+}
+
+}  // namespace
+
+}  // namespace quillane
