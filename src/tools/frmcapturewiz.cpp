@@ -104,6 +104,12 @@ void frmCaptureWiz::connectSignals() {
       bevel.shadow(x, 0, x, 22);
       bevel.light(x + 1, 0, x + 1, 22);
     }
+    // The border of a screen has the colour of the form; without a line nobody sees where it ends.
+    const QRect edge = ui_->picCapture->geometry().adjusted(-1, -1, 1, 1);
+    bevel.shadow(edge.left(), edge.top(), edge.right(), edge.top());
+    bevel.shadow(edge.left(), edge.top(), edge.left(), edge.bottom());
+    bevel.light(edge.left(), edge.bottom(), edge.right(), edge.bottom());
+    bevel.light(edge.right(), edge.top(), edge.right(), edge.bottom() + 1);
   });
   connect(ui_->btnVistrel, &QAbstractButton::clicked, this, &frmCaptureWiz::btnVistrel_Click);
   connect(ui_->btnClipboardCopy, &QAbstractButton::clicked, this,
@@ -183,6 +189,7 @@ void frmCaptureWiz::showResult() {
   ui_->picCapture->setGeometry(width() / 2 - kept.width() / 2,
                                height() / 2 - kept.height() / 2 + kBelowMiddle, kept.width(),
                                kept.height());
+  ui_->area->update();
 }
 
 void frmCaptureWiz::btnClipboardCopy_Click() {
