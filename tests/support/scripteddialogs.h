@@ -53,6 +53,7 @@ class ScriptedDialogs : public Dialogs {
     QString folder, fileName, extension, filter;
   };
   FileFields lastFile{};
+  bool opensPages = true;
   QString lastFolder;           ///< Where the last folder dialog began.
   CustomColors customColors{};  ///< What the last colour dialog was given.
 
@@ -72,7 +73,7 @@ class ScriptedDialogs : public Dialogs {
   }
   bool openPage(const QUrl& page) override {
     take("page", page.toString());
-    return true;
+    return opensPages;
   }
   bool chooseFile(QWidget*, clsOpenSave& request, FileQuestion question) override {
     lastFile = {question, request.InitDir, request.FileName, request.DefaultExt, request.Filter};
