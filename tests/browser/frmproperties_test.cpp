@@ -324,7 +324,7 @@ TEST_F(Properties, MakesRoomForTextsThatWrap) {
   open();
   auto& file = control<QLabel>("lblThemeFile");
   EXPECT_LE(file.sizeHint().width(), file.width());
-  EXPECT_TRUE(file.toolTip().count(u'w') == 200);
+  EXPECT_EQ(file.toolTip().count(u'w'), 200);
 }
 
 }  // namespace
