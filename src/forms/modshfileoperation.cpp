@@ -8,13 +8,11 @@
 #include "shell/files.h"
 
 #include <QCoreApplication>
-#include <QCursor>
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressDialog>
@@ -90,9 +88,12 @@ QString factsText(const QString& path) {
 class ProgressWindow : public QProgressDialog {
  public:
   ProgressWindow(QWidget* owner, const QString& title);
-  ~ProgressWindow() override;
 
   void tell(const QStringList& lines, qint64 done, qint64 all);
+
+ private:
+  /// The wait pointer of the operation would forbid the button.
+  PointerOverride arrow_{Qt::ArrowCursor};
 };
 
 ProgressWindow::ProgressWindow(QWidget* owner, const QString& title) : QProgressDialog(owner) {
@@ -105,12 +106,6 @@ ProgressWindow::ProgressWindow(QWidget* owner, const QString& title) : QProgress
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   setLabel(label);
-  // The wait pointer of the operation would forbid the button.
-  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-}
-
-ProgressWindow::~ProgressWindow() {
-  QGuiApplication::restoreOverrideCursor();
 }
 
 void ProgressWindow::tell(const QStringList& lines, qint64 done, qint64 all) {
