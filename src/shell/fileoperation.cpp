@@ -48,11 +48,7 @@ bool isPermission(std::errc error) {
          error == std::errc::read_only_file_system;
 }
 
-Fault folderNotFound(const QString& folder, int line = __builtin_LINE()) {
-  return Fault(FaultNumber::FileNotFound, u"Folder \"%1\" not found."_s.arg(folder), line);
-}
-
-Fault missing(const QString& path, int line) {
+Fault missing(const QString& path, int line = __builtin_LINE()) {
   const QString folder = QFileInfo(path).path();
   return FolderExists(folder) ? notFound(path, line) : folderNotFound(folder, line);
 }
@@ -60,14 +56,8 @@ Fault missing(const QString& path, int line) {
 Fault faultOf(std::errc error, const Doing& doing, const QString& path,
               int line = __builtin_LINE()) {
   if (error == std::errc::no_such_file_or_directory) return missing(path, line);
-  if (isPermission(error))
-    return Fault(FaultNumber::NoPermission, u"No permission to %1 \"%2\"."_s.arg(doing.verb, path),
-                 line);
-  if (error == std::errc::no_space_on_device)
-    return Fault(
-        FaultNumber::DiskFull,
-        u"No room left to %1 \"%2\". Make room on the disk and try again."_s.arg(doing.verb, path),
-        line);
+  if (isPermission(error)) return noPermission(doing.verb, path, line);
+  if (error == std::errc::no_space_on_device) return noRoom(doing.verb, path, line);
   const QString reason = QString::fromLocal8Bit(std::make_error_code(error).message());
   return Fault(FaultNumber::DeviceFault,
                u"File \"%1\" could not be %2: %3."_s.arg(path, doing.participle, reason), line);
@@ -84,7 +74,7 @@ Fault renameFault(std::errc error, const QString& from, const QString& to,
 Fault uncreated(const QString& path, const QString& reason, int line = __builtin_LINE()) {
   const QFileInfo folder(QFileInfo(path).path());
   if (!folder.isDir()) return folderNotFound(folder.filePath(), line);
-  if (!folder.isWritable()) return faultOf(std::errc::permission_denied, kWriting, path, line);
+  if (!folder.isWritable()) return noPermission(kWriting.verb, path, line);
   return Fault(FaultNumber::DeviceFault,
                u"File \"%1\" could not be written: %2."_s.arg(path, reason), line);
 }
@@ -252,8 +242,7 @@ bool Operation::move(const QString& source, const QString& target) {
 
 bool Operation::trash(const QString& source) {
   // Where nothing can be removed, there is nothing to ask either.
-  if (!QFileInfo(QFileInfo(source).path()).isWritable())
-    throw faultOf(std::errc::permission_denied, kDeleting, source);
+  if (!QFileInfo(QFileInfo(source).path()).isWritable()) throw noPermission(kDeleting.verb, source);
   const QString reason = refusalOfTrash(source);
   if (reason.isEmpty()) return true;
   if (watcher_.deleteForGood(source, reason, left_))
