@@ -122,7 +122,7 @@ bool isSame(const QString& source, const QString& target) {
 
 /// The path of a written file, which has no name on the disk until it is asked for one.
 QString nameWritten(QTemporaryFile& file, const QString& target) {
-  const QString path = file.fileName();
+  QString path = file.fileName();
   if (path.isEmpty()) throw uncreated(target, file.errorString());
   return path;
 }

@@ -103,7 +103,7 @@ class ScriptedDialogs : public Dialogs {
   };
 
   Step take(const QString& kind, const QString& text) {
-    const Step step = script_.isEmpty() ? Step{} : script_.takeFirst();
+    Step step = script_.isEmpty() ? Step{} : script_.takeFirst();
     const bool fits =
         step.kind == kind &&
         (step.text.endsWith('*') ? text.startsWith(step.text.chopped(1)) : text == step.text);
