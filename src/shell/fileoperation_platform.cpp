@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/fileoperation_platform.h"
 
+#include "theme/fault.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -104,9 +106,11 @@ QString refusalOfTrash(const QString& path) {
   if (!file.moveToTrash()) return file.errorString();
   const QFileInfo moved(file.fileName());
   if (moved.isAbsolute() && (moved.exists() || moved.isSymLink())) return {};
-  const std::errc error = renameFresh(moved.absoluteFilePath(), path);
-  return error == std::errc{} ? u"the desktop has none"_s
-                              : u"it lies in \"%1\" now"_s.arg(moved.absoluteFilePath());
+  if (renameFresh(moved.absoluteFilePath(), path) != std::errc{})
+    throw Fault(FaultNumber::DeviceFault,
+                u"The desktop has no trash: file \"%1\" lies in \"%2\" now."_s.arg(
+                    path, moved.absoluteFilePath()));
+  return u"the desktop has none"_s;
 }
 
 }  // namespace quillane
