@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/dialogs.h"
 
+#include "forms/chourglass.h"
 #include "forms/clsopensave.h"
 #include "forms/formcolors.h"
 
@@ -48,9 +49,8 @@ void show(QMessageBox& box) {
   // File names come from strangers and are no markup.
   box.setTextFormat(Qt::PlainText);
   // Whoever is to answer should not see the wait pointer of the work that asks.
-  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+  const PointerOverride arrow(Qt::ArrowCursor);
   box.exec();
-  QGuiApplication::restoreOverrideCursor();
 }
 
 constexpr qsizetype kLongestText = 20000;

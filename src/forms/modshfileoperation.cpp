@@ -54,13 +54,6 @@ Words wordsOf(FileVerb verb) {
   return {u"Deleting Files"_s, u"Deleting"_s, u"Delete File"_s};
 }
 
-/// A file's name may hold line ends and the like.
-QString oneLine(QString text) {
-  for (QChar& character : text)
-    if (character.category() == QChar::Other_Control) character = u' ';
-  return text;
-}
-
 /// A name on one line of a length that a box can show.
 QString shortName(const QString& text) {
   QString name = oneLine(text);

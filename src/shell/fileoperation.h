@@ -56,4 +56,7 @@ FileOperationResult runFileOperation(FileVerb verb, const QStringList& sources,
 /// source is gone, the name is taken or cannot be one.
 void renameFile(const QString& source, const QString& target);
 
+/// Version of the library that knows the trash, as it is in memory: "2.74.6".
+QString glibVersion();
+
 }  // namespace quillane

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/fileoperation.h"
 
-#include "support/environment.h"
 #include "support/hindrance.h"
 #include "support/tempfolder.h"
 
@@ -15,6 +14,24 @@
 namespace quillane {
 
 namespace {
+
+/// The trash of all tests here lies in a folder of their own; the desktop's library asks for its
+/// place once.
+class OwnHome : public testing::Environment {
+ public:
+  void SetUp() override {
+    for (const char* variable : {"HOME", "XDG_DATA_HOME"})
+      qputenv(variable, folder_.path().toUtf8());
+  }
+  /// Where the files of the trash lie, seen from a folder.
+  static QString trashFrom(const QString& folder) {
+    return QDir(folder).relativeFilePath(qEnvironmentVariable("XDG_DATA_HOME") + "/Trash/files");
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+const auto* const kOwnHome = testing::AddGlobalTestEnvironment(new OwnHome);
 
 constexpr qint64 kManyChunks = 1'000'000;
 
@@ -65,7 +82,6 @@ class FileOperation : public TempFolder {
     ASSERT_TRUE(QFile::link(target, path(name)));
   }
 
-  const WithVariable home{"XDG_DATA_HOME", path("data/home")};
   ScriptedWatcher watcher;
 };
 
@@ -76,7 +92,7 @@ TEST_F(FileOperation, BringsEveryByteWhereItBelongs) {
   const auto contentOf = [](const QString& name) { return name.toUtf8().repeated(100'000); };
   const std::tuple<FileVerb, QString> cases[] = {{FileVerb::Copy, "to"},
                                                  {FileVerb::Move, "other"},
-                                                 {FileVerb::Trash, "data/home/Trash/files"},
+                                                 {FileVerb::Trash, OwnHome::trashFrom(path())},
                                                  {FileVerb::Delete, ""}};
   makeFolder("other");
   for (const auto& [verb, arrival] : cases) {
