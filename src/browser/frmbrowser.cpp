@@ -173,6 +173,7 @@ void frmBrowser::changeEvent(QEvent* event) {
 }
 
 bool frmBrowser::Form_KeyDown(const QKeyEvent& key) {
+  if (key.type() != QEvent::KeyPress) return false;
   if (key.key() == Qt::Key_F2 && SelectedCount == 1)
     ui_->mnuFileItem_5->trigger();
   else if (key.key() == Qt::Key_Delete && ui_->btnDelete->isEnabled() &&

@@ -102,10 +102,11 @@ class frmBrowser : public QMainWindow {
 
   // Theme files (frmbrowser_files.cpp).
   QStringList selectedPaths() const;
-  bool askCopyMoveFolder(const QString& prompt);
   void btnCopy_Click();
   void btnMove_Click();
   void btnDelete_Click();
+  /// Reads the list anew when any of the files is gone from it.
+  void refreshWithout(const QStringList& paths);
   /// Goes on after files have left the list.
   void AfterRemoval();
   void StartRename();

@@ -12,6 +12,7 @@
 #include "ui_frmbrowser.h"
 
 #include <QMenu>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -45,7 +46,11 @@ void frmBrowser::connectSignals() {
   connect(ui_->filFiles, &FileListBox::PathChange, this, &frmBrowser::filFiles_PathChange);
   connect(ui_->txtRename, &QLineEdit::returnPressed, this,
           [this] { run("txtRename_KeyPress"_L1, [this] { txtRename_Enter(); }); });
+  connect(ui_->filFiles->verticalScrollBar(), &QScrollBar::valueChanged, ui_->txtRename,
+          &QWidget::hide);
   connect(mnuPopup2_, &QMenu::triggered, this, &frmBrowser::mnuPopup2Item_Click);
+  // Hiding the box gives the focus to what comes next.
+  setTabOrder(ui_->txtRename, ui_->filFiles);
   connectCommands();
   connectPanes();
   connectMenus();

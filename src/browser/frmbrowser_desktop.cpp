@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What leaves the program: sources and images out of a theme, themes to a phone, pages to the
 // desktop.
+#include "browser/addresses.h"
 #include "browser/frmbrowser.h"
 #include "browser/frmproperties.h"
 #include "browser/panemenus.h"
@@ -15,7 +16,6 @@
 #include "shell/state.h"
 #include "theme/codepage.h"
 #include "theme/files.h"
-#include "theme/version.h"
 
 #include <QDir>
 #include <QProcess>
@@ -42,15 +42,12 @@ void frmBrowser::mnuPopup3Item_Extract(const ExtractItem3G& item) {
 }
 
 void frmBrowser::extractImage(const QString& image) {
-  const QString folder =
-      dialogs_.BrowseForFolder(this, state_.ExtractFolder, u"Extract image to:"_s);
-  if (folder.isEmpty()) return;
-  state_.ExtractFolder = folder;
+  if (!askFolder(dialogs_, this, u"Extract image to:"_s, state_.ExtractFolder)) return;
   if (image.isEmpty())
     dialogs_.message(this, MessageIcon::Stop, QString(),
                      u"This theme has no such image; there is nothing to extract."_s);
   else
-    SHFileCopy(this, dialogs_, {image}, folder);
+    SHFileCopy(this, dialogs_, {image}, state_.ExtractFolder);
 }
 
 void frmBrowser::btnIRSend_Click() {

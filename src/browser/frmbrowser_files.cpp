@@ -10,6 +10,8 @@
 #include "shell/state.h"
 #include "ui_frmbrowser.h"
 
+#include <algorithm>
+
 namespace quillane {
 
 using namespace Qt::StringLiterals;
@@ -21,37 +23,37 @@ QStringList frmBrowser::selectedPaths() const {
   return paths;
 }
 
-bool frmBrowser::askCopyMoveFolder(const QString& prompt) {
-  const QString folder = dialogs_.BrowseForFolder(this, state_.CopyMoveFolder, prompt);
-  if (folder.isEmpty()) return false;
-  state_.CopyMoveFolder = folder;
-  return true;
-}
-
 void frmBrowser::btnCopy_Click() {
-  if (!askCopyMoveFolder(u"Copy file(s) to:"_s)) return;
+  if (!askFolder(dialogs_, this, u"Copy file(s) to:"_s, state_.CopyMoveFolder)) return;
   SHFileCopy(this, dialogs_, selectedPaths(), state_.CopyMoveFolder);
 }
 
 void frmBrowser::btnMove_Click() {
-  if (!askCopyMoveFolder(u"Move file(s) to:"_s)) return;
-  if (!SHFileMove(this, dialogs_, selectedPaths(), state_.CopyMoveFolder)) return;
-  refreshList();
-  AfterRemoval();
+  if (!askFolder(dialogs_, this, u"Move file(s) to:"_s, state_.CopyMoveFolder)) return;
+  const QStringList paths = selectedPaths();
+  if (SHFileMove(this, dialogs_, paths, state_.CopyMoveFolder)) refreshWithout(paths);
 }
 
 void frmBrowser::btnDelete_Click() {
   const DeleteKind kind = state_.ShiftDown ? DeleteKind::ForGood : DeleteKind::ToTrash;
-  const bool deleted = SHFileDelete(this, dialogs_, selectedPaths(), kind);
+  const QStringList paths = selectedPaths();
+  const bool deleted = SHFileDelete(this, dialogs_, paths, kind);
   state_.ShiftDown = false;
-  if (!deleted) return;
+  if (deleted) refreshWithout(paths);
+}
+
+void frmBrowser::refreshWithout(const QStringList& paths) {
+  // A theme that was moved onto itself, skipped or could not be deleted stays selected.
+  if (std::all_of(paths.begin(), paths.end(), &FileExists)) return;
   refreshList();
   AfterRemoval();
 }
 
 void frmBrowser::AfterRemoval() {
   if (ui_->filFiles->listCount() != 0 && SelectedCount == 1) {
-    ui_->filFiles->selectOnly(qMax(0, state_.SelectedIndex - 1));
+    // Another program may have taken more files than this one.
+    const int last = ui_->filFiles->listCount() - 1;
+    ui_->filFiles->selectOnly(std::clamp(state_.SelectedIndex - 1, 0, last));
     return;
   }
   ClearPreview();
@@ -60,8 +62,11 @@ void frmBrowser::AfterRemoval() {
 
 void frmBrowser::StartRename() {
   FileListBox& list = *ui_->filFiles;
+  const QList<int> selected = list.selectedItems();
+  // The count goes on from 0 after a theme without XML, and then differs.
+  if (selected.size() != 1) return;
   // The keyboard may stand on another row than the selected one.
-  list.setSelected(list.selectedItems().constFirst(), true);
+  list.setSelected(selected.constFirst(), true);
   list.scrollTo(list.currentIndex());
   const int row = list.listIndex() - list.topIndex();
   ui_->txtRename->setText(list.item(list.listIndex()));
@@ -80,7 +85,11 @@ void frmBrowser::txtRename_Enter() {
 }
 
 void frmBrowser::renameTheme(const QString& name) {
-  if (!SHFileRename(this, dialogs_, state_.ThemeFilePath, state_.BrowseFolder + name)) return;
+  // Inverting selects a theme that it does not load; the one under the box is meant. After a rename
+  // the path of the theme is stale until the next selection, and its file is reported as gone.
+  const QString shown = state_.BrowseFolder + ui_->filFiles->item(ui_->filFiles->listIndex());
+  const QString source = FileExists(state_.ThemeFilePath) ? shown : state_.ThemeFilePath;
+  if (!SHFileRename(this, dialogs_, source, state_.BrowseFolder + name)) return;
   refreshList();
   // The theme on show stays as it is.
   InListUpdate = true;

@@ -5,6 +5,7 @@
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
 #include "forms/filelistbox.h"
+#include "forms/renamebox.h"
 #include "shell/files.h"
 #include "shell/state.h"
 #include "ui_frmbrowser.h"
@@ -88,6 +89,7 @@ void frmBrowser::btnRefresh_Click() {
 }
 
 void frmBrowser::refreshList() {
+  ui_->txtRename->hide();
   eventProcedure(dialogs_, this, u"in Quillane.frmBrowser.btnRefresh_Click "_s,
                  [this] { ui_->filFiles->refresh(); });
 }

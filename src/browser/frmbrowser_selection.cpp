@@ -6,6 +6,7 @@
 #include "forms/dialogs.h"
 #include "forms/filelistbox.h"
 #include "forms/picturebox.h"
+#include "forms/renamebox.h"
 #include "preview/screens.h"
 #include "shell/files.h"
 #include "shell/state.h"
@@ -19,6 +20,7 @@ namespace quillane {
 using namespace Qt::StringLiterals;
 
 void frmBrowser::filFiles_Click() {
+  ui_->txtRename->hide();
   if (InListUpdate) return;
   TipText.clear();
   TipTitle.clear();

@@ -7,7 +7,7 @@
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
 #include "forms/formicons.h"
-#include "forms/heldfaults.h"
+#include "forms/keypreview.h"
 #include "forms/modshfileoperation.h"
 #include "preview/picture.h"
 #include "shell/files.h"
@@ -47,7 +47,7 @@ QString orNotThere(const QString& text) {
 
 /// Shows a stranger's text in the one line that a label has.
 void showLine(QLabel& label, const QString& text) {
-  const QString line = widgetText(text).replace(u'\n', u' ');
+  const QString line = oneLine(widgetText(text));
   label.setText(label.fontMetrics().elidedText(line, Qt::ElideMiddle, label.width()));
   label.setToolTip(label.text() == text ? QString() : tipText(text));
 }
@@ -99,8 +99,10 @@ frmProperties::frmProperties(QWidget* owner, PublicState& state, Dialogs& dialog
 frmProperties::~frmProperties() = default;
 
 void frmProperties::connectSignals() {
-  for (int index = 0; index < static_cast<int>(tabs_.size()); ++index)
-    connect(tabs_[static_cast<std::size_t>(index)].button, &QAbstractButton::clicked, this,
+  // Some controls would keep the key to themselves.
+  new KeyPreview(*this, state_, [this](const QKeyEvent& key) { return takeEscape(key); });
+  for (std::size_t index = 0; index < tabs_.size(); ++index)
+    connect(tabs_[index].button, &QAbstractButton::clicked, this,
             [this, index] { btnTabs_Click(index); });
   for (const QKeySequence::StandardKey key : {QKeySequence::NextChild, QKeySequence::PreviousChild})
     connect(new QShortcut(key, this), &QShortcut::activated, this,
@@ -118,15 +120,15 @@ void frmProperties::Form_Load() {
   ui_->filFiles->setHiddenFiles(HiddenFiles::List);
   ui_->filFiles->setPath(state_.AppTempFolder);
   setFixedSize(size());
-  installEventFilter(this);
-  for (QWidget* control : findChildren<QWidget*>())
-    control->installEventFilter(this);
 }
 
 void frmProperties::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   // One of the desktop's own only brings the window back, for instance from an icon.
-  if (!event->spontaneous()) Form_Activate();
+  if (event->spontaneous()) return;
+  Form_Activate();
+  // What went wrong is told when the window is there.
+  QMetaObject::invokeMethod(this, &frmProperties::showFaults, Qt::QueuedConnection);
 }
 
 void frmProperties::Form_Activate() {
@@ -134,15 +136,24 @@ void frmProperties::Form_Activate() {
   btnTabs_Click(0);
   ui_->btnTabs_0->setFocus();
   ui_->filFiles->clearSelection();
-  eventProcedure(dialogs_, this, u"in Quillane.frmProperties.Form_Activate "_s,
-                 [this] { ui_->filFiles->refresh(); });
+  faults_ = {};
+  try {
+    ui_->filFiles->refresh();
+  } catch (const Fault& fault) {
+    faults_.reporter()(fault);
+  }
   clearDetails();
   ui_->btnExtract->setEnabled(false);
   showLine(*ui_->lblThemeFile, SplitPath(state_.ThemeFilePath, PathPart::Name));
   ui_->lblThemeSize->setText(FormatFileSize(state_.ThemeFilePath));
+  names_ = namesOf(state_);
   showImages();
-  names_.XmlName = SplitPath(state_.ThemeXmlPath, PathPart::Name);
   showTags();
+}
+
+void frmProperties::showFaults() {
+  faults_.show(dialogs_, this, u"in Quillane.frmProperties.Form_Activate "_s);
+  parseFaults_.show(dialogs_, this, u"in Quillane.modMain.ParseXML "_s);
 }
 
 void frmProperties::Form_Paint(Bevel& bevel) {
@@ -152,9 +163,9 @@ void frmProperties::Form_Paint(Bevel& bevel) {
   bevel.shadow(right, 0, right, bottom);
 }
 
-void frmProperties::btnTabs_Click(int index) {
-  lowerTab(tabs_.at(static_cast<std::size_t>(ActiveTab)));
-  raiseTab(tabs_.at(static_cast<std::size_t>(index)));
+void frmProperties::btnTabs_Click(std::size_t index) {
+  lowerTab(tabs_.at(ActiveTab));
+  raiseTab(tabs_.at(index));
   ActiveTab = index;
 }
 
@@ -179,25 +190,19 @@ void frmProperties::raiseTab(const Tab& tab) {
 }
 
 void frmProperties::showTags() {
-  HeldFaults faults;
+  parseFaults_ = {};
   const auto [name, creator, modifiedBy, created] =
-      readThemeTags(state_.ThemeXml, faults.reporter());
+      readThemeTags(state_.ThemeXml, parseFaults_.reporter());
   showLine(*ui_->txtThemeName, orNotThere(name));
   showLine(*ui_->txtThemeAuthor, orNotThere(creator));
   showLine(*ui_->txtThemeModifiedBy, orNotThere(modifiedBy));
   const QString stamp = tagTime(state_.ThemeXmlPath);
   showLine(*ui_->lblCreated, created.isEmpty() ? stamp : created);
   showLine(*ui_->lblModified, created.isEmpty() ? orNotThere({}) : stamp);
-  faults.show(dialogs_, this, u"in Quillane.modMain.ParseXML "_s);
 }
 
 void frmProperties::showImages() {
-  names_ = {};
   const std::span<const ImageRow> rows = imageRows(state_.ThemeGeneration);
-  const std::span<const ImageElement> elements = schemaOf(state_.ThemeGeneration).images;
-  const PreviewEngine& engine = state_.ThemeGeneration == Generation::ThreeG
-                                    ? static_cast<PreviewEngine&>(*state_.PreviewEngine3G)
-                                    : *state_.PreviewEngine2;
   const QFontMetrics metrics = ui_->txtImages->fontMetrics();
   int widest = 0;
   for (const ImageRow& row : rows)
@@ -207,24 +212,19 @@ void frmProperties::showImages() {
   QTextCursor cursor(ui_->txtImages->document());
   for (const ImageRow& row : rows) {
     const QString label = QLatin1String(row.label);
-    const SlotState state = state_.ImageState.at(
-        static_cast<std::size_t>(elements[static_cast<std::size_t>(row.image)].state));
-    if (state == SlotState::Found)
-      names_.*row.name = SplitPath(engine.image(row.image), PathPart::Name);
     if (!cursor.atStart()) cursor.insertBlock();
     QTextBlockFormat format;
     format.setTabPositions(
         tabPositions(row.tabs, metrics.horizontalAdvance(label), widest + kStatusGap));
     cursor.setBlockFormat(format);
-    cursor.insertText(label + QString(row.tabs, u'\t') + statusText(state));
+    cursor.insertText(label + QString(row.tabs, u'\t') + statusText(imageStateOf(row, state_)));
   }
 }
 
 void frmProperties::filFiles_Click() {
   const QList<int> selected = ui_->filFiles->selectedItems();
-  SelectedFiles = static_cast<int>(selected.size());
-  if (SelectedFiles > 1) clearDetails();
-  if (SelectedFiles == 1) showDetails(ui_->filFiles->item(selected.first()));
+  if (selected.size() > 1) clearDetails();
+  if (selected.size() == 1) showDetails(ui_->filFiles->item(selected.first()));
 }
 
 void frmProperties::clearDetails() {
@@ -281,14 +281,11 @@ void frmProperties::placeDetails() {
 
 void frmProperties::btnExtract_Click() {
   eventProcedure(dialogs_, this, u"in Quillane.frmProperties.btnExtract_Click "_s, [this] {
-    const QString folder =
-        dialogs_.BrowseForFolder(this, state_.ExtractFolder, u"Extract file(s) to:"_s);
-    if (folder.isEmpty()) return;
-    state_.ExtractFolder = folder;
+    if (!askFolder(dialogs_, this, u"Extract file(s) to:"_s, state_.ExtractFolder)) return;
     QStringList sources;
     for (const int index : ui_->filFiles->selectedItems())
       sources << state_.AppTempFolder + ui_->filFiles->item(index);
-    SHFileCopy(this, dialogs_, sources, folder);
+    SHFileCopy(this, dialogs_, sources, state_.ExtractFolder);
   });
 }
 
@@ -298,21 +295,15 @@ void frmProperties::closeEvent(QCloseEvent* event) {
   event->ignore();
 }
 
-// Sees the keys before the controls do, some of which keep a key to themselves.
-bool frmProperties::eventFilter(QObject* watched, QEvent* event) {
-  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-  if (!isKey) return QDialog::eventFilter(watched, event);
-  const auto& key = static_cast<const QKeyEvent&>(*event);
-  if (key.key() != Qt::Key_Escape) return QDialog::eventFilter(watched, event);
-  if (!key.isAutoRepeat()) takeEscape(event->type() == QEvent::KeyPress);
-  return true;
-}
-
 // It closes the window when it is let go, so that no other window sees its second half. One that
 // went down in a dialog above is not meant.
-void frmProperties::takeEscape(bool down) {
-  if (!down && escapeDown_) hide();
-  escapeDown_ = down;
+bool frmProperties::takeEscape(const QKeyEvent& key) {
+  if (key.key() != Qt::Key_Escape) return false;
+  if (key.isAutoRepeat()) return true;
+  const bool isDown = key.type() == QEvent::KeyPress;
+  if (!isDown && escapeDown_) hide();
+  escapeDown_ = isDown;
+  return true;
 }
 
 }  // namespace quillane

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "browser/themefiles.h"
+#include "forms/heldfaults.h"
 
 #include <QDialog>
 
@@ -33,7 +34,6 @@ class frmProperties : public QDialog {
  protected:
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   /// A tab and its page.
@@ -46,10 +46,11 @@ class frmProperties : public QDialog {
   void Form_Load();
   void Form_Activate();
   void Form_Paint(Bevel& bevel);
-  void btnTabs_Click(int index);
+  void btnTabs_Click(std::size_t index);
   void raiseTab(const Tab& tab);
   void lowerTab(const Tab& tab);
 
+  void showFaults();
   void showTags();
   void showImages();
 
@@ -60,15 +61,17 @@ class frmProperties : public QDialog {
   void hidePreviews();
   void placeDetails();
   void btnExtract_Click();
-  void takeEscape(bool down);
+  /// True for the key, which no control is to see.
+  bool takeEscape(const QKeyEvent& key);
 
   std::unique_ptr<Ui::frmProperties> ui_;
   PublicState& state_;
   Dialogs& dialogs_;
   std::array<Tab, 2> tabs_;
-  int ActiveTab = 0;
-  int SelectedFiles = 0;
+  std::size_t ActiveTab = 0;
   ThemeFileNames names_;
+  HeldFaults faults_;
+  HeldFaults parseFaults_;
   bool escapeDown_ = false;  ///< Escape went down while this window had the keys.
 };
 

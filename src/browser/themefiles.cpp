@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browser/themefiles.h"
 
+#include "shell/files.h"
+#include "shell/state.h"
+
 namespace quillane {
 
 namespace {
@@ -61,7 +64,12 @@ constexpr RoleRow kRoles[] = {
 };
 
 bool isSameFile(const QString& left, const QString& right) {
-  return left.toLower() == right.toLower();
+  return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+const PreviewEngine& engineOnShow(const PublicState& state) {
+  if (state.ThemeGeneration == Generation::ThreeG) return *state.PreviewEngine3G;
+  return *state.PreviewEngine2;
 }
 
 }  // namespace
@@ -69,6 +77,21 @@ bool isSameFile(const QString& left, const QString& right) {
 std::span<const ImageRow> imageRows(Generation generation) {
   if (generation == Generation::ThreeG) return kRows3G;
   return kRows2;
+}
+
+SlotState imageStateOf(const ImageRow& row, const PublicState& state) {
+  const ImageElement& element =
+      schemaOf(state.ThemeGeneration).images[static_cast<std::size_t>(row.image)];
+  return state.ImageState.at(static_cast<std::size_t>(element.state));
+}
+
+ThemeFileNames namesOf(const PublicState& state) {
+  ThemeFileNames names;
+  names.XmlName = SplitPath(state.ThemeXmlPath, PathPart::Name);
+  for (const ImageRow& row : imageRows(state.ThemeGeneration))
+    if (imageStateOf(row, state) == SlotState::Found)
+      names.*row.name = SplitPath(engineOnShow(state).image(row.image), PathPart::Name);
+  return names;
 }
 
 std::optional<FileRole> roleOf(const QString& file, const ThemeFileNames& names) {

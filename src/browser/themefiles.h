@@ -3,6 +3,7 @@
 #pragma once
 
 #include "theme/elements.h"
+#include "theme/values.h"
 
 #include <QString>
 
@@ -10,6 +11,8 @@
 #include <span>
 
 namespace quillane {
+
+struct PublicState;
 
 /// Bare names of the files of a theme by what they serve as; empty for what the theme has not.
 struct ThemeFileNames {
@@ -43,6 +46,12 @@ struct ImageRow {
 
 /// The rows of a generation, in their order.
 std::span<const ImageRow> imageRows(Generation generation);
+
+/// Whether the theme on show has the image of a row.
+SlotState imageStateOf(const ImageRow& row, const PublicState& state);
+
+/// The names of the files of the theme on show.
+ThemeFileNames namesOf(const PublicState& state);
 
 /// How the contents of a file are shown.
 enum class FilePreview { Picture, Text };

@@ -7,11 +7,11 @@
 
 namespace quillane {
 
-cHourglass::cHourglass() {
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+PointerOverride::PointerOverride(Qt::CursorShape shape) {
+  QGuiApplication::setOverrideCursor(shape);
 }
 
-cHourglass::~cHourglass() {
+PointerOverride::~PointerOverride() {
   QGuiApplication::restoreOverrideCursor();
 }
 

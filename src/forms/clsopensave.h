@@ -17,7 +17,7 @@ class clsOpenSave {
 
   QString DialogTitle;
   QString InitDir;      ///< Where the dialog begins.
-  QString FileName;     ///< Offered name without a folder; afterwards the full path chosen.
+  QString FileName;     ///< Offered name, bare or with a folder; afterwards the full path chosen.
   QString DefaultExt;   ///< Put behind a name without one, as in ".thm".
   QString Filter;       ///< Captions and patterns in turn, as in "Themes (*.thm)|*.thm|All|*".
   int FilterIndex = 1;  ///< Of the filter in force, from 1.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/dialogs.h"
 
+#include "forms/chourglass.h"
 #include "forms/clsopensave.h"
 #include "forms/formcolors.h"
 
@@ -48,9 +49,8 @@ void show(QMessageBox& box) {
   // File names come from strangers and are no markup.
   box.setTextFormat(Qt::PlainText);
   // Whoever is to answer should not see the wait pointer of the work that asks.
-  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+  const PointerOverride arrow(Qt::ArrowCursor);
   box.exec();
-  QGuiApplication::restoreOverrideCursor();
 }
 
 constexpr qsizetype kLongestText = 20000;
@@ -86,11 +86,24 @@ QString widgetText(const QString& text) {
 }
 
 QString tipText(const QString& text) {
-  return Qt::convertFromPlainText(widgetText(text), Qt::WhiteSpaceNormal);
+  return Qt::convertFromPlainText(boxText(text), Qt::WhiteSpaceNormal);
+}
+
+QString oneLine(QString text) {
+  for (QChar& character : text)
+    if (character.category() == QChar::Other_Control) character = u' ';
+  return text;
 }
 
 QString titleText(QString text) {
   return text.replace("[*]"_L1, "[*][*]"_L1);
+}
+
+bool askFolder(Dialogs& dialogs, QWidget* owner, const QString& prompt, QString& remembered) {
+  const QString folder = dialogs.BrowseForFolder(owner, remembered, prompt);
+  if (folder.isEmpty()) return false;
+  remembered = folder;
+  return true;
 }
 
 void DesktopDialogs::message(QWidget* owner, MessageIcon icon, const QString& title,
@@ -103,7 +116,7 @@ Answer DesktopDialogs::ask(QWidget* owner, const Question& question) {
   QMessageBox box(iconOf(question.icon), question.title, boxText(question.text),
                   QMessageBox::NoButton, owner);
   QList<QAbstractButton*> buttons;
-  // The role of none keeps the order in which the buttons are told.
+  // One role for all keeps them in the order told, on every desktop.
   for (const QString& caption : question.buttons)
     buttons << box.addButton(caption, QMessageBox::ActionRole);
   box.setEscapeButton(buttons.last());
@@ -114,7 +127,9 @@ Answer DesktopDialogs::ask(QWidget* owner, const Question& question) {
     box.setCheckBox(tick);
   }
   show(box);
-  return {static_cast<int>(buttons.indexOf(box.clickedButton())), tick && tick->isChecked()};
+  // Nothing was clicked when the program itself closed the box.
+  const auto clicked = buttons.indexOf(box.clickedButton());
+  return {static_cast<int>(clicked < 0 ? buttons.size() - 1 : clicked), tick && tick->isChecked()};
 }
 
 QString DesktopDialogs::BrowseForFolder(QWidget* owner, const QString& startFolder,

@@ -74,12 +74,19 @@ class Dialogs {
 /// person can read, since parts of it may come from a stranger's file.
 QString widgetText(const QString& text);
 
+/// A text on one line: control characters, which a file's name may hold, become blanks.
+QString oneLine(QString text);
+
 /// A stranger's text for a tooltip, which would take some texts for markup.
 QString tipText(const QString& text);
 
 /// A text of the program for the title of a window, whose toolkit takes a single "[*]" for its mark
 /// of an unsaved document.
 QString titleText(QString text);
+
+/// Asks for a folder, beginning at the remembered one, which becomes the answer. False when the
+/// person cancels.
+bool askFolder(Dialogs& dialogs, QWidget* owner, const QString& prompt, QString& remembered);
 
 /// The dialogs of the desktop.
 class DesktopDialogs : public Dialogs {

@@ -27,12 +27,16 @@ class RowDelegate : public QStyledItemDelegate {
     return {QStyledItemDelegate::sizeHint(option, index).width(), FileListBox::kRowHeight};
   }
 
+  QString displayText(const QVariant& value, const QLocale&) const override {
+    return oneLine(value.toString());
+  }
+
   /// A name that the row cannot hold shows in full beside the pointer.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override {
     const QString name = index.data().toString();
     const bool fits = sizeHint(option, index).width() <= view->visualRect(index).width();
-    QToolTip::showText(event->globalPos(), fits ? QString() : tipText(name), view);
+    QToolTip::showText(event->globalPos(), fits ? QString() : tipText(oneLine(name)), view);
     return true;
   }
 };

@@ -6,6 +6,7 @@
 #include "forms/frmsplash.h"
 #include "preview/faces.h"
 #include "preview/platform.h"
+#include "shell/fileoperation.h"
 #include "theme/archive.h"
 #include "ui_frmabout.h"
 
@@ -33,6 +34,7 @@ constexpr Library kLibraries[] = {
     {"Qt", qtVersion, "windows, pictures and files", "LGPL-3.0"},
     {"libarchive", archiveLibraryVersion, "theme archives", "BSD-2-Clause"},
     {"FreeType", freeTypeVersion, "texts of the screens", "FTL or GPL-2.0"},
+    {"GLib", glibVersion, "the way to the trash", "LGPL-2.1-or-later"},
     {"Fontconfig", fontconfigVersion, "finding typefaces", "HPND"},
 };
 

@@ -4,6 +4,8 @@
 
 #include "forms/eventprocedure.h"
 
+#include <utility>
+
 namespace quillane {
 
 FaultReporter HeldFaults::reporter() {
@@ -15,9 +17,9 @@ FaultReporter HeldFaults::reporter() {
 }
 
 void HeldFaults::show(Dialogs& dialogs, QWidget* owner, const QString& tag) {
-  for (const Fault& fault : waiting_)
+  // More may come while a box is open.
+  for (const Fault& fault : std::exchange(waiting_, {}))
     showFault(dialogs, owner, fault, tag);
-  waiting_.clear();
 }
 
 }  // namespace quillane

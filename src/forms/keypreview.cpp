@@ -8,22 +8,23 @@
 #include <QKeyEvent>
 #include <QWidget>
 
+#include <utility>
+
 namespace quillane {
 
-KeyPreview::KeyPreview(QWidget& form, PublicState& state, KeyDown keyDown)
-    : QObject(&form), form_(form), state_(state), keyDown_(std::move(keyDown)) {
+KeyPreview::KeyPreview(QWidget& form, PublicState& state, Handler handler)
+    : QObject(&form), form_(form), state_(state), handler_(std::move(handler)) {
   qApp->installEventFilter(this);
 }
 
 bool KeyPreview::eventFilter(QObject* watched, QEvent* event) {
-  const bool isDown = event->type() == QEvent::KeyPress;
-  if (!isDown && event->type() != QEvent::KeyRelease) return false;
+  if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
   const auto* widget = qobject_cast<QWidget*>(watched);
   if (!widget || widget->window() != &form_) return false;
   const auto& key = *static_cast<QKeyEvent*>(event);
   state_.ShiftDown = key.modifiers().testFlag(Qt::ShiftModifier);
   state_.CtrlDown = key.modifiers().testFlag(Qt::ControlModifier);
-  return isDown && keyDown_ && keyDown_(key);
+  return handler_ && handler_(key);
 }
 
 }  // namespace quillane

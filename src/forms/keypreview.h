@@ -19,11 +19,12 @@ class KeyPreview : public QObject {
   Q_OBJECT
 
  public:
-  /// Takes a key that goes down and says whether the form used it up.
-  using KeyDown = std::function<bool(const QKeyEvent& key)>;
+  /// Takes a key that goes down or is let go, as its type tells, and says whether the form used it
+  /// up.
+  using Handler = std::function<bool(const QKeyEvent& key)>;
 
   /// Belongs to `form`; `state` outlives it.
-  KeyPreview(QWidget& form, PublicState& state, KeyDown keyDown = {});
+  KeyPreview(QWidget& form, PublicState& state, Handler handler = {});
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -31,7 +32,7 @@ class KeyPreview : public QObject {
  private:
   QWidget& form_;
   PublicState& state_;
-  KeyDown keyDown_;
+  Handler handler_;
 };
 
 }  // namespace quillane

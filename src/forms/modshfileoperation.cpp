@@ -8,13 +8,11 @@
 #include "shell/files.h"
 
 #include <QCoreApplication>
-#include <QCursor>
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressDialog>
@@ -56,13 +54,6 @@ Words wordsOf(FileVerb verb) {
   return {u"Deleting Files"_s, u"Deleting"_s, u"Delete File"_s};
 }
 
-/// A file's name may hold line ends and the like.
-QString oneLine(QString text) {
-  for (QChar& character : text)
-    if (character.category() == QChar::Other_Control) character = u' ';
-  return text;
-}
-
 /// A name on one line of a length that a box can show.
 QString shortName(const QString& text) {
   QString name = oneLine(text);
@@ -90,9 +81,12 @@ QString factsText(const QString& path) {
 class ProgressWindow : public QProgressDialog {
  public:
   ProgressWindow(QWidget* owner, const QString& title);
-  ~ProgressWindow() override;
 
   void tell(const QStringList& lines, qint64 done, qint64 all);
+
+ private:
+  /// The wait pointer of the operation would forbid the button.
+  PointerOverride arrow_{Qt::ArrowCursor};
 };
 
 ProgressWindow::ProgressWindow(QWidget* owner, const QString& title) : QProgressDialog(owner) {
@@ -105,12 +99,6 @@ ProgressWindow::ProgressWindow(QWidget* owner, const QString& title) : QProgress
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   setLabel(label);
-  // The wait pointer of the operation would forbid the button.
-  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-}
-
-ProgressWindow::~ProgressWindow() {
-  QGuiApplication::restoreOverrideCursor();
 }
 
 void ProgressWindow::tell(const QStringList& lines, qint64 done, qint64 all) {
@@ -131,7 +119,8 @@ class Watcher final : public FileOperationWatcher {
       : owner_(owner), dialogs_(dialogs), words_(wordsOf(verb)), targetFolder_(targetFolder) {}
 
   Overwrite targetExists(const QString& source, const QString& target, bool left) override;
-  bool goOnAfter(const Fault& fault, bool left) override;
+  bool goOnAfter(const Fault& fault) override;
+  void report(const Fault& fault) override;
   bool deleteForGood(const QString& path, const QString& reason, bool left) override;
   bool progress(const QString& path, qint64 done, qint64 all) override;
 
@@ -171,12 +160,13 @@ Overwrite Watcher::targetExists(const QString& source, const QString& target, bo
   return kAnswers[ask(question, &conflicts_)];
 }
 
-bool Watcher::goOnAfter(const Fault& fault, bool left) {
+bool Watcher::goOnAfter(const Fault& fault) {
   const QStringList answers{u"Go On"_s, u"Stop"_s};
-  const QString& text = fault.description();
-  if (left) return ask({MessageIcon::Stop, words_.failure, text, answers, 0, {}}) == 0;
-  dialogs_.message(asker(), MessageIcon::Stop, words_.failure, text);
-  return true;
+  return ask({MessageIcon::Stop, words_.failure, fault.description(), answers, 0, {}}) == 0;
+}
+
+void Watcher::report(const Fault& fault) {
+  dialogs_.message(asker(), MessageIcon::Stop, words_.failure, fault.description());
 }
 
 bool Watcher::deleteForGood(const QString& path, const QString& reason, bool left) {
@@ -237,26 +227,31 @@ QString tagOf(const char16_t* procedure) {
 
 void SHFileCopy(QWidget* owner, Dialogs& dialogs, const QStringList& sources,
                 const QString& target) {
+  if (sources.isEmpty()) return;
   eventProcedure(dialogs, owner, tagOf(u"SHFileCopy"),
                  [&] { run(owner, dialogs, FileVerb::Copy, sources, target); });
 }
 
 bool SHFileMove(QWidget* owner, Dialogs& dialogs, const QStringList& sources,
                 const QString& target) {
-  FileOperationResult result{.failed = true};
-  eventProcedure(dialogs, owner, tagOf(u"SHFileMove"),
-                 [&] { result = run(owner, dialogs, FileVerb::Move, sources, target); });
-  return !result.failed && !result.aborted;
+  if (sources.isEmpty()) return false;
+  bool moved = false;
+  eventProcedure(dialogs, owner, tagOf(u"SHFileMove"), [&] {
+    const FileOperationResult result = run(owner, dialogs, FileVerb::Move, sources, target);
+    moved = !result.failed && !result.stopped;
+  });
+  return moved;
 }
 
 bool SHFileDelete(QWidget* owner, Dialogs& dialogs, const QStringList& sources, DeleteKind kind) {
-  if (sources.isEmpty()) return true;
-  if (!isConfirmed(owner, dialogs, sources, kind)) return false;
+  if (sources.isEmpty() || !isConfirmed(owner, dialogs, sources, kind)) return false;
   const FileVerb verb = kind == DeleteKind::ToTrash ? FileVerb::Trash : FileVerb::Delete;
-  FileOperationResult result;
-  eventProcedure(dialogs, owner, tagOf(u"SHFileDelete"),
-                 [&] { result = run(owner, dialogs, verb, sources); });
-  return !result.aborted;
+  bool deleted = false;
+  eventProcedure(dialogs, owner, tagOf(u"SHFileDelete"), [&] {
+    const FileOperationResult result = run(owner, dialogs, verb, sources);
+    deleted = !result.stopped && !result.allKept;
+  });
+  return deleted;
 }
 
 bool SHFileRename(QWidget* owner, Dialogs& dialogs, const QString& source, const QString& target) {

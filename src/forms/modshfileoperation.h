@@ -16,17 +16,18 @@ enum class DeleteKind { ToTrash, ForGood };
 
 // File operations as a person sees them: with a window of progress when they last, a question where
 // a name is taken, one before anything is deleted, and a report of each file that fails. The wait
-// pointer shows meanwhile.
+// pointer shows meanwhile, but not beside the window of progress. Without files nothing happens.
 
 /// Copies files into the folder `target`.
 void SHFileCopy(QWidget* owner, Dialogs& dialogs, const QStringList& sources,
                 const QString& target);
 
-/// Moves files into the folder `target`. True when it ran to its end without a failure.
+/// Moves files into the folder `target`. True when there were any and none failed or was left.
 bool SHFileMove(QWidget* owner, Dialogs& dialogs, const QStringList& sources,
                 const QString& target);
 
-/// Deletes files. True unless the person stopped it.
+/// Deletes files. False when the person stopped it or kept every file; files that failed do not
+/// count.
 bool SHFileDelete(QWidget* owner, Dialogs& dialogs, const QStringList& sources, DeleteKind kind);
 
 /// Gives the file `source` the path `target` in the same folder. True when it has it.

@@ -48,11 +48,7 @@ bool isPermission(std::errc error) {
          error == std::errc::read_only_file_system;
 }
 
-Fault folderNotFound(const QString& folder, int line = __builtin_LINE()) {
-  return Fault(FaultNumber::FileNotFound, u"Folder \"%1\" not found."_s.arg(folder), line);
-}
-
-Fault missing(const QString& path, int line) {
+Fault missing(const QString& path, int line = __builtin_LINE()) {
   const QString folder = QFileInfo(path).path();
   return FolderExists(folder) ? notFound(path, line) : folderNotFound(folder, line);
 }
@@ -60,14 +56,8 @@ Fault missing(const QString& path, int line) {
 Fault faultOf(std::errc error, const Doing& doing, const QString& path,
               int line = __builtin_LINE()) {
   if (error == std::errc::no_such_file_or_directory) return missing(path, line);
-  if (isPermission(error))
-    return Fault(FaultNumber::NoPermission, u"No permission to %1 \"%2\"."_s.arg(doing.verb, path),
-                 line);
-  if (error == std::errc::no_space_on_device)
-    return Fault(
-        FaultNumber::DiskFull,
-        u"No room left to %1 \"%2\". Make room on the disk and try again."_s.arg(doing.verb, path),
-        line);
+  if (isPermission(error)) return noPermission(doing.verb, path, line);
+  if (error == std::errc::no_space_on_device) return noRoom(doing.verb, path, line);
   const QString reason = QString::fromLocal8Bit(std::make_error_code(error).message());
   return Fault(FaultNumber::DeviceFault,
                u"File \"%1\" could not be %2: %3."_s.arg(path, doing.participle, reason), line);
@@ -84,7 +74,7 @@ Fault renameFault(std::errc error, const QString& from, const QString& to,
 Fault uncreated(const QString& path, const QString& reason, int line = __builtin_LINE()) {
   const QFileInfo folder(QFileInfo(path).path());
   if (!folder.isDir()) return folderNotFound(folder.filePath(), line);
-  if (!folder.isWritable()) return faultOf(std::errc::permission_denied, kWriting, path, line);
+  if (!folder.isWritable()) return noPermission(kWriting.verb, path, line);
   return Fault(FaultNumber::DeviceFault,
                u"File \"%1\" could not be written: %2."_s.arg(path, reason), line);
 }
@@ -93,15 +83,19 @@ void check(std::errc error, const Doing& doing, const QString& path, int line = 
   if (error != std::errc{}) throw faultOf(error, doing, path, line);
 }
 
-/// Throws for what is no file. A link is one where its content does not count.
-void checkSource(const QString& path, bool contentCounts) {
+/// Throws for what is no file. A link counts as what it leads to.
+void checkFile(const QString& path) {
   const QFileInfo file(path);
-  if (file.isSymLink() && !contentCounts) return;
-  if (!file.exists()) throw missing(path, __builtin_LINE());
+  if (!file.exists()) throw missing(path);
   if (file.isDir())
     throw Fault(FaultNumber::NoPermission, u"\"%1\" is a folder, no file."_s.arg(path));
   if (!file.isFile())
     throw Fault(FaultNumber::NoPermission, u"\"%1\" is a device or a pipe, no file."_s.arg(path));
+}
+
+/// Throws for what is neither a file nor a link, wherever that leads.
+void checkFileOrLink(const QString& path) {
+  if (!QFileInfo(path).isSymLink()) checkFile(path);
 }
 
 /// Throws for what no file may replace.
@@ -110,16 +104,13 @@ void checkReplaced(const QString& path) {
   if (file.isDir())
     throw Fault(FaultNumber::NoPermission,
                 u"A folder \"%1\" is in the way. Move it or give it another name."_s.arg(path));
-  if (!file.isFile() && !file.isSymLink())
-    throw Fault(FaultNumber::NoPermission, u"\"%1\" is no file that can be replaced."_s.arg(path));
+  if (!file.isFile() && !file.isSymLink()) throw irreplaceable(path);
 }
 
 bool isEquivalent(const QString& path, const QString& other) {
-  const auto native = [](const QString& text) {
-    return std::filesystem::path(QFile::encodeName(text).toStdString());
-  };
   std::error_code oneIsMissing;
-  return std::filesystem::equivalent(native(path), native(other), oneIsMissing);
+  return std::filesystem::equivalent(QFileInfo(path).filesystemFilePath(),
+                                     QFileInfo(other).filesystemFilePath(), oneIsMissing);
 }
 
 /// Whether a file would meet itself in a folder: by its place, or because its content is what lies
@@ -127,6 +118,13 @@ bool isEquivalent(const QString& path, const QString& other) {
 bool isSame(const QString& source, const QString& target) {
   return isEquivalent(QFileInfo(source).path(), QFileInfo(target).path()) ||
          (!QFileInfo(target).isSymLink() && isEquivalent(source, target));
+}
+
+/// The path of a written file, which has no name on the disk until it is asked for one.
+QString nameWritten(QTemporaryFile& file, const QString& target) {
+  QString path = file.fileName();
+  if (path.isEmpty()) throw uncreated(target, file.errorString());
+  return path;
 }
 
 /// What tells whether a file was written to meanwhile.
@@ -200,12 +198,12 @@ FileOperationResult Operation::run() {
   for (qsizetype i = 0; i < sources_.size(); ++i) {
     left_ = i + 1 < sources_.size();
     if (!workOnOrReport(sources_[i])) {
-      result_.aborted = true;
+      result_.stopped = true;
       break;
     }
     done_ += weights_[i];
   }
-  if (kept_ != 0 && kept_ == sources_.size()) result_.aborted = true;  // Nothing happened.
+  result_.allKept = kept_ != 0 && kept_ == sources_.size();
   return result_;
 }
 
@@ -214,12 +212,17 @@ bool Operation::workOnOrReport(const QString& source) {
     return watcher_.progress(source, done_, all_) && workOn(source);
   } catch (const Fault& fault) {
     result_.failed = true;
-    return watcher_.goOnAfter(fault, left_) || !left_;
+    if (left_) return watcher_.goOnAfter(fault);
+    watcher_.report(fault);
+    return true;
   }
 }
 
 bool Operation::workOn(const QString& source) {
-  checkSource(source, verb_ == FileVerb::Copy);
+  if (verb_ == FileVerb::Copy)
+    checkFile(source);
+  else
+    checkFileOrLink(source);
   const QString target = withSeparator(targetFolder_) + SplitPath(source, PathPart::Name);
   switch (verb_) {
     case FileVerb::Copy:
@@ -252,8 +255,7 @@ bool Operation::move(const QString& source, const QString& target) {
 
 bool Operation::trash(const QString& source) {
   // Where nothing can be removed, there is nothing to ask either.
-  if (!QFileInfo(QFileInfo(source).path()).isWritable())
-    throw faultOf(std::errc::permission_denied, kDeleting, source);
+  if (!QFileInfo(QFileInfo(source).path()).isWritable()) throw noPermission(kDeleting.verb, source);
   const QString reason = refusalOfTrash(source);
   if (reason.isEmpty()) return true;
   if (watcher_.deleteForGood(source, reason, left_))
@@ -265,7 +267,7 @@ bool Operation::trash(const QString& source) {
 
 /// Moves to another file system.
 bool Operation::carry(const QString& source, const QString& target, Claim claim) {
-  checkSource(source, true);
+  checkFile(source);
   const auto stamp = stampOf(source);
   claim = copyAs(source, target, claim);
   if (!isGranted(claim)) return claim != Claim::Stop;
@@ -290,9 +292,7 @@ Claim Operation::copyAs(const QString& source, const QString& target, Claim clai
   if (!copyBytes(from, to, target)) return Claim::Stop;
   check(copyPermissionsAndTime(from.handle(), to.handle()), kWriting, target);
   check(flushFile(to.handle()), kWriting, target);
-  const QString hidden = to.fileName();
-  if (hidden.isEmpty()) throw uncreated(target, to.errorString());
-  const Placed placed = place(hidden, source, target, claim);
+  const Placed placed = place(nameWritten(to, target), source, target, claim);
   if (!isGranted(placed.claim)) return placed.claim;
   check(placed.error, kWriting, target);
   to.setAutoRemove(false);
@@ -302,13 +302,17 @@ Claim Operation::copyAs(const QString& source, const QString& target, Claim clai
 
 bool Operation::copyBytes(QFile& from, QTemporaryFile& to, const QString& target) {
   QByteArray chunk(kChunk, Qt::Uninitialized);
-  for (qint64 copied = 0;;) {
+  for (qint64 copied = 0, unflushed = 0;;) {
     const qint64 count = from.read(chunk.data(), kChunk);
     if (count < 0) throw unreadable(from.fileName());
     if (count == 0) return true;
     check(appendBytes(to.handle(), QByteArrayView(chunk).first(count)), kWriting, target);
     copied += count;
-    if (copied % kFlushEvery == 0) check(flushFile(to.handle()), kWriting, target);
+    unflushed += count;
+    if (unflushed >= kFlushEvery) {
+      check(flushFile(to.handle()), kWriting, target);
+      unflushed = 0;
+    }
     if (!watcher_.progress(from.fileName(), std::min(done_ + copied, all_), all_)) return false;
   }
 }
@@ -385,7 +389,7 @@ FileOperationResult runFileOperation(FileVerb verb, const QStringList& sources,
 
 void renameFile(const QString& source, const QString& target) {
   checkName(source, target);
-  checkSource(source, false);
+  checkFileOrLink(source);
   if (source == target) return;
   std::errc error = renameFresh(source, target);
   if (error == std::errc::file_exists && isTakenByItself(source, target))

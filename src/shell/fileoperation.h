@@ -27,8 +27,10 @@ class FileOperationWatcher {
 
   /// Another file lies where `source` would go. More files may be `left` after it.
   virtual Overwrite targetExists(const QString& source, const QString& target, bool left) = 0;
-  /// A file failed. True to go on with those that are `left`, if any.
-  virtual bool goOnAfter(const Fault& fault, bool left) = 0;
+  /// A file failed and others are left. True to go on with them.
+  virtual bool goOnAfter(const Fault& fault) = 0;
+  /// The last file failed.
+  virtual void report(const Fault& fault) = 0;
   /// The trash cannot take the file. True to delete it for good instead of keeping it.
   virtual bool deleteForGood(const QString& path, const QString& reason, bool left) = 0;
   /// The operation works on `path` and has done so much of its bytes; of its files, when it
@@ -38,8 +40,9 @@ class FileOperationWatcher {
 
 /// How an operation ended.
 struct FileOperationResult {
-  bool aborted = false;  ///< The watcher stopped it, or kept every file from a trash that refused.
+  bool stopped = false;  ///< The watcher ended it before its end.
   bool failed = false;   ///< A file could not be worked on.
+  bool allKept = false;  ///< The trash refused every file, and the watcher gave none up.
 };
 
 /// Works on files, one after the other; folders are faults. `targetFolder` counts for copies and
@@ -52,5 +55,8 @@ FileOperationResult runFileOperation(FileVerb verb, const QStringList& sources,
 /// Gives a file another name in its folder; its own one changes nothing. Throws `Fault` when the
 /// source is gone, the name is taken or cannot be one.
 void renameFile(const QString& source, const QString& target);
+
+/// Version of the library that knows the trash, as it is in memory: "2.74.6".
+QString glibVersion();
 
 }  // namespace quillane

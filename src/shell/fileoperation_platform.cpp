@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/fileoperation_platform.h"
 
-#include <QDir>
+#include "shell/fileoperation.h"
+#include "theme/fault.h"
+
 #include <QFile>
-#include <QFileInfo>
-#include <QStandardPaths>
 
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <gio/gio.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,6 +42,11 @@ bool isUnknownToDisk(std::errc error) {
 std::errc unlessUnknownToDisk(std::errc error) {
   return isUnknownToDisk(error) ? std::errc{} : error;
 }
+
+struct Release {
+  void operator()(GFile* file) const { g_object_unref(file); }
+  void operator()(GError* error) const { g_error_free(error); }
+};
 
 }  // namespace
 
@@ -96,17 +103,17 @@ std::errc copyPermissionsAndTime(int from, int to) {
   return unlessUnknownToDisk(outcome(::futimens(to, times)));
 }
 
+QString glibVersion() {
+  return u"%1.%2.%3"_s.arg(glib_major_version).arg(glib_minor_version).arg(glib_micro_version);
+}
+
+// The toolkit's own way to the trash never ends where it cannot note down a file's place.
 QString refusalOfTrash(const QString& path) {
-  // Without this folder the trash would be made in the current one.
-  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  if (!QDir().mkpath(data)) return u"folder \"%1\" cannot be made"_s.arg(data);
-  QFile file(path);
-  if (!file.moveToTrash()) return file.errorString();
-  const QFileInfo moved(file.fileName());
-  if (moved.isAbsolute() && (moved.exists() || moved.isSymLink())) return {};
-  const std::errc error = renameFresh(moved.absoluteFilePath(), path);
-  return error == std::errc{} ? u"the desktop has none"_s
-                              : u"it lies in \"%1\" now"_s.arg(moved.absoluteFilePath());
+  const std::unique_ptr<GFile, Release> file(g_file_new_for_path(QFile::encodeName(path)));
+  GError* refusal = nullptr;
+  if (g_file_trash(file.get(), nullptr, &refusal)) return {};
+  const std::unique_ptr<GError, Release> error(refusal);
+  return QString::fromUtf8(error->message);
 }
 
 }  // namespace quillane

@@ -33,7 +33,8 @@ std::errc flushFolder(const QString& folder);
 /// Gives an open file the permissions and the time of another, where its disk keeps such.
 std::errc copyPermissionsAndTime(int from, int to);
 
-/// Moves a file to the desktop's trash. Empty on success, else why the file is still there.
+/// Moves a file to the desktop's trash. Empty on success, else why the file is still there. Throws
+/// `Fault` when it went elsewhere for good.
 QString refusalOfTrash(const QString& path);
 
 }  // namespace quillane

@@ -144,7 +144,7 @@ bool Main(PublicState& state, const SettingsStore& settings, const Places& place
   setLanguageFiles(state, settings, programFolder);
   state.PalettesFolder = programFolder + "Palettes/"_L1;
   state.QualitiesFile = programFolder + "add-in/i_view32.ini"_L1;
-  state.HelpFolder = withSeparator(places.shippedFolder) + "help/"_L1;
+  state.HelpFolder = withSeparator(places.shippedFolder) + kHelpFolder;
   state.SystemFolder = places.systemFolder;
   screen.setStatus(u"Status: Initializing preview engines..."_s);
   makeEngines(state, settings, world, report);

@@ -14,6 +14,9 @@ struct Places {
   QString settingsFile;   ///< The INI file of the user settings.
 };
 
+/// The folder of the help pages below `Places::shippedFolder`, ending in a separator.
+inline constexpr QLatin1String kHelpFolder{"help/"};
+
 /// The places of this desktop: the program's folder is $QUILLANE_HOME or
 /// $XDG_DATA_HOME/quillane, the shipped files lie in ../share/quillane beside the program.
 Places placesOfDesktop(const QString& applicationFolder);

@@ -19,9 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Read where it is installed, so that it is always that of this version.
-constexpr auto kHelp = "help/"_L1;
-
 QSet<QString> readNotes(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -84,7 +81,8 @@ void seedProgramFolder(const Places& places, const FaultReporter& report) {
     const QString from = files.next();
     const QString name = shipped.relativeFilePath(from);
     const QString to = home.filePath(name);
-    if (copied.contains(name) || name.startsWith(kHelp)) continue;
+    // Help is read where it is installed, so that it is always that of this version.
+    if (copied.contains(name) || name.startsWith(kHelpFolder)) continue;
     const auto copy = [&] {
       QDir().mkpath(QFileInfo(to).path());
       if (!QFileInfo::exists(to)) copyFile(from, to);

@@ -15,7 +15,7 @@ namespace quillane {
 
 /// The public variables of the program: `Main` fills them, the forms are given them, and they last
 /// for the run. A folder text ends with a separator, but for the last answers of folder dialogs:
-/// `CopyMoveFolder` and `ExtractFolder` are kept as they were given.
+/// `CopyMoveFolder` and `ExtractFolder` are kept as they were given, and for `SystemFolder`.
 struct PublicState {
   QString AppTempFolder;       ///< Work area of the theme on show.
   QString ThemesFolder;        ///< Where new themes are saved.

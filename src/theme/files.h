@@ -25,6 +25,18 @@ qint64 fileSize(const QString& path);
 /// The fault of a file that is not there.
 Fault notFound(const QString& path, int line = __builtin_LINE());
 
+/// The fault of a folder that is not there.
+Fault folderNotFound(const QString& folder, int line = __builtin_LINE());
+
+/// The fault of a file that one may not read, write, or what else the verb says.
+Fault noPermission(QLatin1String verb, const QString& path, int line = __builtin_LINE());
+
+/// The fault of a disk that has no room for what the verb says.
+Fault noRoom(QLatin1String verb, const QString& path, int line = __builtin_LINE());
+
+/// The fault of a device or the like that lies where a file would go.
+Fault irreplaceable(const QString& path, int line = __builtin_LINE());
+
 /// The fault of a file that could not be opened or read, told by what the path leads to.
 Fault unreadable(const QString& path, int line = __builtin_LINE());
 

@@ -44,7 +44,7 @@ const Verb kThumbnailVerb{"thumbnail"_L1,
                           "THEME OUT.png SIZE"_L1,
                           3,
                           3,
-                          "paint the standby screen in a square of SIZE pixels"_L1,
+                          "paint the standby screen to fit a square of SIZE pixels"_L1,
                           {},
                           &runThumbnail};
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browserfixture.h"
+#include "support/hindrance.h"
 
 #include <QLineEdit>
 #include <QMenu>
@@ -141,6 +142,48 @@ TEST_F(Files, KeepTheirNamesWhereARenameIsRefused) {
   EXPECT_EQ(listed(), (QStringList{"a.thm", "c.thm", "d.thm"})) << "the path of the theme is stale";
 }
 
+TEST_F(Files, AreRenamedOnlyUnderTheBox) {
+  addThemes("ab");
+  packArchive(path("themes/c.thm"), {write("pack/readme.txt", "no theme")});
+  openActive(0);
+  list().setSelected(0, false);
+  trigger("mnuEditItem_7");
+  list().setSelected(0, false);
+  list().setSelected(2, false);
+  select(0);
+  list().setSelected(2, true);
+  trigger("mnuEditItem_7");
+  rename("new");
+  EXPECT_EQ(listed(), (QStringList{"a.thm", "c.thm", "new.thm"})) << "the one that was inverted";
+  select(1);
+  trigger("mnuEditItem_7");
+  press(Qt::Key_F2);
+  EXPECT_FALSE(renameBox().isVisible()) << "two are selected, though one is counted";
+}
+
+TEST_F(Files, StaySelectedWhereNothingWasMoved) {
+  addThemes("abc");
+  openActive(1);
+  dialogs.expectFolder("Move file(s) to:", path("themes"));
+  click("btnMove");
+  EXPECT_EQ(list().selectedItems(), QList<int>{1}) << "moved onto itself";
+  const WithoutPrivilege nobody;
+  dialogs.expectQuestion("Delete \"b.thm\" for good*", "Delete");
+  dialogs.expectMessage("No permission to delete*");
+  press(Qt::Key_Delete, Qt::ShiftModifier);
+  EXPECT_EQ(list().selectedItems(), QList<int>{1});
+}
+
+TEST_F(Files, GoOnWhenOthersAreTakenMeanwhile) {
+  addThemes("abcde");
+  openActive(4);
+  for (const char* name : {"a", "b", "c"})
+    QFile::remove(path(QString("themes/%1.thm").arg(name)));
+  dialogs.expectQuestion("Move \"e.thm\"*", "Move to Trash");
+  press(Qt::Key_Delete);
+  EXPECT_EQ(state.ThemeFilePath, path("themes/d.thm"));
+}
+
 TEST_F(Files, ShowTheRenameBoxOverTheirRow) {
   for (int i = 10; i < 60; ++i)
     addTheme(QString("t%1.thm").arg(i));
@@ -153,12 +196,23 @@ TEST_F(Files, ShowTheRenameBoxOverTheirRow) {
   EXPECT_EQ(renameBox().text(), "") << "the key edits the text";
   QTest::keyClick(&renameBox(), Qt::Key_Escape);
   EXPECT_FALSE(renameBox().isVisible());
+  EXPECT_TRUE(list().hasFocus());
   trigger("mnuFileItem_5");
   Q_EMIT control<QMenu>("mnuView").aboutToShow();
   EXPECT_FALSE(renameBox().isVisible()) << "a menu hides it";
   trigger("mnuFileItem_5");
   list().setFocus();
   EXPECT_FALSE(renameBox().isVisible()) << "and so does the list";
+  for (const char* button : {"btnPrev", "btnRefresh"}) {
+    select(45);
+    trigger("mnuFileItem_5");
+    click(button);
+    EXPECT_FALSE(renameBox().isVisible()) << "another theme is meant then: " << button;
+  }
+  select(45);
+  trigger("mnuFileItem_5");
+  list().verticalScrollBar()->setValue(0);
+  EXPECT_FALSE(renameBox().isVisible()) << "its row is elsewhere";
   list().setSelected(3, true);
   press(Qt::Key_F2);
   EXPECT_FALSE(renameBox().isVisible()) << "two are selected";

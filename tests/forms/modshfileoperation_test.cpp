@@ -5,22 +5,14 @@
 #include "support/scripteddialogs.h"
 #include "support/tempfolder.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTimer>
 
 namespace quillane {
 
 namespace {
-
-/// Keeps the last question.
-class KeptDialogs : public ScriptedDialogs {
- public:
-  Question last;
-
-  Answer ask(QWidget* owner, const Question& question) override {
-    last = question;
-    return ScriptedDialogs::ask(owner, question);
-  }
-};
 
 class SHFile : public TempFolder {
  protected:
@@ -39,7 +31,7 @@ class SHFile : public TempFolder {
       write(folder + letter, (folder + letter).toUtf8());
   }
 
-  KeptDialogs dialogs;
+  ScriptedDialogs dialogs;
 };
 
 TEST_F(SHFile, AsksWhatToReplaceOnceForAll) {
@@ -52,10 +44,11 @@ TEST_F(SHFile, AsksWhatToReplaceOnceForAll) {
 
   dialogs.expectQuestion("\"a\" is already in the folder*", "Cancel");
   EXPECT_FALSE(SHFileMove(nullptr, dialogs, files("a"), path("to")));
-  EXPECT_TRUE(dialogs.last.text.contains("There:\t0.0 KB (4 bytes), ")) << "of the old file";
-  EXPECT_TRUE(dialogs.last.text.contains("New:\t0.0 KB (1 bytes), "));
-  EXPECT_EQ(dialogs.last.buttons[dialogs.last.standard], "Skip");
-  EXPECT_EQ(dialogs.last.checkBox, "") << "there is no other file";
+  EXPECT_TRUE(dialogs.lastQuestion.text.contains("There:\t0.0 KB (4 bytes), "))
+      << "of the old file";
+  EXPECT_TRUE(dialogs.lastQuestion.text.contains("New:\t0.0 KB (1 bytes), "));
+  EXPECT_EQ(dialogs.lastQuestion.buttons[dialogs.lastQuestion.standard], "Skip");
+  EXPECT_EQ(dialogs.lastQuestion.checkBox, "") << "there is no other file";
 }
 
 TEST_F(SHFile, ReportsEachFileThatFails) {
@@ -87,24 +80,58 @@ TEST_F(SHFile, ConfirmsWhatItDeletes) {
     dialogs.expectQuestion(text, button);
     const bool deletes = button != "Cancel";
     EXPECT_EQ(SHFileDelete(nullptr, dialogs, files(letters), kind), deletes);
-    EXPECT_EQ(dialogs.last.buttons[dialogs.last.standard], standard);
+    EXPECT_EQ(dialogs.lastQuestion.buttons[dialogs.lastQuestion.standard], standard);
     EXPECT_EQ(QFile::exists(path("a")), !deletes);
   }
-  EXPECT_TRUE(SHFileDelete(nullptr, dialogs, {}, DeleteKind::ForGood)) << "asks nothing";
+}
+
+TEST_F(SHFile, DoesNothingWithoutFiles) {
+  SHFileCopy(nullptr, dialogs, {}, path("none"));
+  EXPECT_FALSE(SHFileMove(nullptr, dialogs, {}, path("none")));
+  EXPECT_FALSE(SHFileDelete(nullptr, dialogs, {}, DeleteKind::ForGood));
+}
+
+TEST_F(SHFile, StopsByTheButtonOfItsWindow) {
+  writeAll("ab");
+  // One file again and again: it takes no room, but longer than the window waits.
+  const QStringList sources = QStringList(50'000, path("a")) << path("b");
+  dialogs.expectQuestion("\"a\" is already in the folder*", "Replace", true);
+  QTimer timer;
+  QString shown;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (const auto* progress = qobject_cast<QProgressDialog*>(window)) {
+        shown = progress->labelText();
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        progress->findChild<QPushButton*>()->click();
+      }
+  });
+  timer.start(0);
+  SHFileCopy(nullptr, dialogs, sources, path("to"));
+  EXPECT_TRUE(shown.startsWith("Copying \"a\"\nto \"")) << shown.toStdString();
+  EXPECT_EQ(listOf("to"), QStringList{"a"}) << "neither the last file nor a hidden one";
 }
 
 TEST_F(SHFile, AsksOnceForAllThatTheTrashRefuses) {
-  const QByteArray home = qgetenv("XDG_DATA_HOME");
-  qputenv("XDG_DATA_HOME", write("file", "x").toUtf8() + "/home");
+  const QString trash = qEnvironmentVariable("XDG_DATA_HOME") + "/Trash";
+  ASSERT_TRUE(QDir(trash).removeRecursively() && QFile(trash).open(QIODevice::WriteOnly));
   writeAll("abc");
+  dialogs.expectQuestion("Move these*", "Move to Trash");
+  dialogs.expectQuestion("\"a\" cannot be moved to the trash:*", "Keep", true);
+  EXPECT_FALSE(SHFileDelete(nullptr, dialogs, files("abc"), DeleteKind::ToTrash));
+  EXPECT_EQ(listOf(""), (QStringList{"a", "b", "c", "to"}));
   dialogs.expectQuestion("Move these*", "Move to Trash");
   dialogs.expectQuestion("\"a\" cannot be moved to the trash:*", "Keep");
   dialogs.expectQuestion("\"b\" cannot be moved to the trash:*", "Delete", true);
-  EXPECT_FALSE(SHFileDelete(nullptr, dialogs, files("abc"), DeleteKind::ToTrash));
-  EXPECT_EQ(dialogs.last.buttons[dialogs.last.standard], "Keep");
-  EXPECT_EQ(listOf(""), (QStringList{"a", "file", "to"}));
-  EXPECT_FALSE(QFile::exists("files")) << "a trash in the current folder";
-  qputenv("XDG_DATA_HOME", home);
+  EXPECT_TRUE(SHFileDelete(nullptr, dialogs, files("abc"), DeleteKind::ToTrash));
+  EXPECT_EQ(dialogs.lastQuestion.buttons[dialogs.lastQuestion.standard], "Keep");
+  EXPECT_EQ(listOf(""), (QStringList{"a", "to"}));
+  EXPECT_TRUE(QFile::remove(trash));
+  const QString longest(250, 'x');
+  write(longest, "x");
+  dialogs.expectQuestion("Move*", "Move to Trash");
+  dialogs.expectQuestion("\"xx*", "Keep");
+  EXPECT_FALSE(SHFileDelete(nullptr, dialogs, {path(longest)}, DeleteKind::ToTrash));
 }
 
 TEST_F(SHFile, SaysWhyANameCannotBe) {

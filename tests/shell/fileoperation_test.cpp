@@ -9,10 +9,29 @@
 
 #include <functional>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace quillane {
 
 namespace {
+
+/// The trash of all tests here lies in a folder of their own; the desktop's library asks for its
+/// place once.
+class OwnHome : public testing::Environment {
+ public:
+  void SetUp() override {
+    for (const char* variable : {"HOME", "XDG_DATA_HOME"})
+      qputenv(variable, folder_.path().toUtf8());
+  }
+  /// Where the files of the trash lie, seen from a folder.
+  static QString trashFrom(const QString& folder) {
+    return QDir(folder).relativeFilePath(qEnvironmentVariable("XDG_DATA_HOME") + "/Trash/files");
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+const auto* const kOwnHome = testing::AddGlobalTestEnvironment(new OwnHome);
 
 constexpr qint64 kManyChunks = 1'000'000;
 
@@ -29,10 +48,11 @@ class ScriptedWatcher : public FileOperationWatcher {
     ADD_FAILURE() << "unexpected conflict of " << source.toStdString();
     return Overwrite::Cancel;
   }
-  bool goOnAfter(const Fault& fault, bool) override {
-    faults << fault.description();
+  bool goOnAfter(const Fault& fault) override {
+    report(fault);
     return goesOn;
   }
+  void report(const Fault& fault) override { faults << fault.description(); }
   bool deleteForGood(const QString&, const QString& reason, bool) override {
     ADD_FAILURE() << "the trash refuses: " << reason.toStdString();
     return false;
@@ -45,19 +65,16 @@ class ScriptedWatcher : public FileOperationWatcher {
 
 class FileOperation : public TempFolder {
  protected:
-  FileOperation() {
-    makeFolder("to");
-    qputenv("XDG_DATA_HOME", path("data/home").toUtf8());
-  }
+  FileOperation() { makeFolder("to"); }
 
-  /// "ok", "failed", "aborted" or both.
+  /// "ok", "failed", "stopped" or both.
   QString run(FileVerb verb, const QStringList& names, const QString& target = "to") {
     QStringList sources;
     for (const QString& name : names)
       sources << path(name);
     const auto result = runFileOperation(verb, sources, path(target), watcher);
     EXPECT_TRUE(watcher.answers.isEmpty()) << "a conflict was not asked about";
-    const QString ending = result.aborted ? "aborted" : "ok";
+    const QString ending = result.stopped ? "stopped" : "ok";
     return result.failed ? "failed " + ending : ending;
   }
 
@@ -75,7 +92,7 @@ TEST_F(FileOperation, BringsEveryByteWhereItBelongs) {
   const auto contentOf = [](const QString& name) { return name.toUtf8().repeated(100'000); };
   const std::tuple<FileVerb, QString> cases[] = {{FileVerb::Copy, "to"},
                                                  {FileVerb::Move, "other"},
-                                                 {FileVerb::Trash, "data/home/Trash/files"},
+                                                 {FileVerb::Trash, OwnHome::trashFrom(path())},
                                                  {FileVerb::Delete, ""}};
   makeFolder("other");
   for (const auto& [verb, arrival] : cases) {
@@ -106,7 +123,7 @@ TEST_F(FileOperation, AsksBeforeItReplaces) {
   const std::tuple<Overwrite, const char*, const char*, const char*> cases[] = {
       {Overwrite::Replace, "ok", "new a", "new b"},
       {Overwrite::Skip, "ok", "old a", "new b"},
-      {Overwrite::Cancel, "aborted", "old a", ""}};
+      {Overwrite::Cancel, "stopped", "old a", ""}};
   for (const FileVerb verb : {FileVerb::Copy, FileVerb::Move})
     for (const auto& [answer, ending, first, second] : cases) {
       SCOPED_TRACE(testing::Message() << int(verb) << ' ' << int(answer));
@@ -133,7 +150,7 @@ TEST_F(FileOperation, AsksWhenANameIsTakenMeanwhile) {
       return done == 0 || !write("to/a", "other").isEmpty();
     };
     watcher.answers = {answer};
-    EXPECT_EQ(run(FileVerb::Copy, {"a"}), answer == Overwrite::Cancel ? "aborted" : "ok");
+    EXPECT_EQ(run(FileVerb::Copy, {"a"}), answer == Overwrite::Cancel ? "stopped" : "ok");
     EXPECT_EQ(read("to/a"), answer == Overwrite::Replace ? "new" : "other");
     EXPECT_EQ(listOf("to"), QStringList{"a"});
   }
@@ -205,7 +222,7 @@ TEST_F(FileOperation, ReportsWhatFailsAndGoesOn) {
   }
   EXPECT_EQ(read("taken"), "x");
   watcher.goesOn = false;
-  EXPECT_EQ(run(FileVerb::Copy, {"gone", "taken"}), "failed aborted");
+  EXPECT_EQ(run(FileVerb::Copy, {"gone", "taken"}), "failed stopped");
   EXPECT_EQ(run(FileVerb::Copy, {"gone"}), "failed ok") << "nothing was left to stop";
   EXPECT_EQ(faultNumberOf([&] { run(FileVerb::Copy, {"taken"}, "missing"); }),
             int(FaultNumber::FileNotFound));
@@ -275,7 +292,7 @@ TEST_F(FileOperation, StopsInTheMiddleOfAFile) {
   write("a", "a");
   write("b", QByteArray(kManyChunks, 'b'));
   watcher.atProgress = [](qint64 done) { return done < kManyChunks / 2; };
-  EXPECT_EQ(run(FileVerb::Copy, {"a", "b"}), "aborted");
+  EXPECT_EQ(run(FileVerb::Copy, {"a", "b"}), "stopped");
   EXPECT_EQ(listOf("to"), QStringList{"a"});
 }
 

@@ -31,9 +31,9 @@ class ScriptedDialogs : public Dialogs {
     script_.push_back({"folder", prompt, answer});
   }
 
-  /// A question, answered by the caption of a button.
+  /// A question, answered by the caption of a button. Afterwards `lastQuestion` holds it.
   void expectQuestion(const QString& text, const QString& button, bool ticked = false) {
-    script_.push_back({"question", text, button, ticked ? 1 : 0});
+    script_.push_back({.kind = "question", .text = text, .answer = button, .ticked = ticked});
   }
   void expectPage(const QString& address) { script_.push_back({"page", address, {}}); }
 
@@ -53,6 +53,8 @@ class ScriptedDialogs : public Dialogs {
     QString folder, fileName, extension, filter;
   };
   FileFields lastFile{};
+  bool opensPages = true;
+  Question lastQuestion{};
   QString lastFolder;           ///< Where the last folder dialog began.
   CustomColors customColors{};  ///< What the last colour dialog was given.
 
@@ -60,11 +62,12 @@ class ScriptedDialogs : public Dialogs {
     take("message", text);
   }
   Answer ask(QWidget*, const Question& question) override {
+    lastQuestion = question;
     const Step step = take("question", question.text);
     const auto button = question.buttons.indexOf(step.answer);
     EXPECT_GE(button, 0) << "no button " << step.answer.toStdString();
-    EXPECT_TRUE(!step.detail || !question.checkBox.isEmpty()) << "nothing to tick";
-    return {static_cast<int>(button), step.detail != 0};
+    EXPECT_TRUE(!step.ticked || !question.checkBox.isEmpty()) << "nothing to tick";
+    return {static_cast<int>(button), step.ticked};
   }
   QString BrowseForFolder(QWidget*, const QString& startFolder, const QString& prompt) override {
     lastFolder = startFolder;
@@ -72,14 +75,14 @@ class ScriptedDialogs : public Dialogs {
   }
   bool openPage(const QUrl& page) override {
     take("page", page.toString());
-    return true;
+    return opensPages;
   }
   bool chooseFile(QWidget*, clsOpenSave& request, FileQuestion question) override {
     lastFile = {question, request.InitDir, request.FileName, request.DefaultExt, request.Filter};
     const Step step = take("file", request.DialogTitle);
     if (step.answer.isEmpty()) return false;
     request.FileName = step.answer;
-    request.FilterIndex = step.detail;
+    request.FilterIndex = step.filterIndex;
     return true;
   }
   std::optional<ColorValue> chooseColor(QWidget*, ColorValue initial,
@@ -96,11 +99,12 @@ class ScriptedDialogs : public Dialogs {
     QString kind;
     QString text;
     QString answer{};
-    int detail = 1;
+    int filterIndex = 1;
+    bool ticked = false;
   };
 
   Step take(const QString& kind, const QString& text) {
-    const Step step = script_.isEmpty() ? Step{} : script_.takeFirst();
+    Step step = script_.isEmpty() ? Step{} : script_.takeFirst();
     const bool fits =
         step.kind == kind &&
         (step.text.endsWith('*') ? text.startsWith(step.text.chopped(1)) : text == step.text);

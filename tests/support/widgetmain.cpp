@@ -9,7 +9,7 @@ int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
   const QTemporaryDir home;
   for (const char* variable :
-       {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
+       {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
     qputenv(variable, home.path().toUtf8());
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   const QApplication application(argc, argv);
