@@ -647,18 +647,15 @@ def mirror():
 
 def screen_with_border(width):
     canvas = Canvas(16)
-    if width:
-        for place in range(16):
-            for layer in range(width):
-                for x, y in ((place, layer), (place, 15 - layer), (layer, place), (15 - layer, place)):
-                    canvas.put(x, y, "i")
-    for place in range(16):
-        for x, y in ((place, 0), (place, 15), (0, place), (15, place)):
-            if width:
+    for y in range(3 - width, 13 + width):
+        for x in range(3 - width, 13 + width):
+            edge = min(x - 3 + width, y - 3 + width, 12 + width - x, 12 + width - y)
+            if edge == 0 and width:
                 canvas.put(x, y, "g")
-    for y in range(width, 16 - width):
-        for x in range(width, 16 - width):
-            canvas.put(x, y, "b" if y < 9 else "G")
+            elif edge < width:
+                canvas.put(x, y, "i")
+            else:
+                canvas.put(x, y, "b" if y < 9 else "G")
     return canvas
 
 
@@ -674,7 +671,7 @@ def single_border():
 
 @icon(153)
 def default_border():
-    return screen_with_border(4)
+    return screen_with_border(3)
 
 
 @icon(126)

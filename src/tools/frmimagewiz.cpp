@@ -116,9 +116,7 @@ void frmImageWiz::connectSignals() {
           [this](Bevel& bevel) { DrawEtchedLine(bevel, width(), 26); });
   connect(ui_->picImage, &CropCanvas::MouseMove, this, &frmImageWiz::picImage_MouseMove);
   connect(ui_->picImage, &CropCanvas::Click, this, &frmImageWiz::picImage_Click);
-  connect(ui_->picImage, &CropCanvas::Nudge, this, [this](QPoint pixels) {
-    if (ui_->picImage->hasFrame()) moveFrame(ui_->picImage->frame().topLeft() + pixels);
-  });
+  connect(ui_->picImage, &CropCanvas::Nudge, this, &frmImageWiz::nudgeFrame);
   connect(ui_->txtX, &QLineEdit::returnPressed, this,
           [this] { txtXY_Enter(*ui_->txtX, ImageW - ui_->picImage->frame().width()); });
   connect(ui_->txtY, &QLineEdit::returnPressed, this,
@@ -156,6 +154,7 @@ void frmImageWiz::mnuPopupItem_Click(int item) {
   ui_->vsbHeight->setValue(0);
   ui_->hsbWidth->setValue(0);
   ui_->picImage->setFrame(QRect(QPoint(0, 0), size));
+  ui_->lblSizeHint->hide();
   ui_->lblResult->show();
   ui_->picCropPicture->setGeometry(QRect(kCropPlace, size));
   ui_->lblImgSize->move(kCropPlace.x(), kCropPlace.y() + size.height() + 10);
@@ -281,6 +280,8 @@ void frmImageWiz::LoadImage(const QString& fileName) {
   for (QWidget* button : {ui_->btnToolbar_8, ui_->btnToolbar_9, ui_->btnToolbar_10})
     button->setEnabled(true);
   ui_->lblXY->show();
+  ui_->lblHint->hide();
+  ui_->lblSizeHint->setVisible(!ui_->picImage->hasFrame());
   // The frame stays where it was; what it shows of the new picture is what would be saved.
   RefreshCrop();
 }
@@ -341,6 +342,14 @@ void frmImageWiz::moveFrame(QPoint place) {
   ui_->txtX->setText(QString::number(place.x()));
   ui_->txtY->setText(QString::number(place.y()));
   RefreshCrop();
+}
+
+void frmImageWiz::nudgeFrame(QPoint pixels) {
+  const QRect frame = ui_->picImage->frame();
+  if (frame.isNull()) return;
+  const QPoint room(qMax(0, ImageW - frame.width()), qMax(0, ImageH - frame.height()));
+  const QPoint place = frame.topLeft() + pixels;
+  moveFrame({std::clamp(place.x(), 0, room.x()), std::clamp(place.y(), 0, room.y())});
 }
 
 void frmImageWiz::txtXY_Enter(QLineEdit& box, int room) {

@@ -60,6 +60,8 @@ class frmImageWiz : public QDialog {
   void picImage_Click();
   /// Moves the frame and shows where it is.
   void moveFrame(QPoint place);
+  /// Moves the frame by so many pixels, as far as the picture goes.
+  void nudgeFrame(QPoint pixels);
   void txtXY_Enter(QLineEdit& box, int room);
   void scroll();
 

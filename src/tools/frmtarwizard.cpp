@@ -30,15 +30,16 @@ struct StepTexts {
   const char* header;
   const char* subheader;
   const char* next;
+  int nextPicture;
 };
 
 constexpr StepTexts kSteps[] = {
-    {"Welcome to TAR Wizard", "Introduction", "&Next"},
-    {"TAR Wizard - Step 1", "File list", "&Next"},
-    {"TAR Wizard - Step 2", "Creating theme - TAR archive", "OK"},
+    {"Welcome to TAR Wizard", "Introduction", "&Next", 132},
+    {"TAR Wizard - Step 1", "File list", "&Next", 132},
+    {"TAR Wizard - Step 2", "Creating theme - TAR archive", "OK", 101},
 };
 
-constexpr ButtonPicture kButtonPictures[] = {{"btnCancel", 102}, {"btnNext", 132}};
+constexpr ButtonPicture kButtonPictures[] = {{"btnCancel", 102}};
 constexpr int kPrevious = 134;
 constexpr int kPreviousDisabled = 135;
 constexpr int kBandPicture = 213;
@@ -96,6 +97,7 @@ void frmTARWizard::showStep(int step) {
   ui_->lblHeader_0->setText(QLatin1String(texts.header));
   ui_->lblHeader_1->setText(QLatin1String(texts.subheader));
   ui_->btnNext->setText(QLatin1String(texts.next));
+  ui_->btnNext->setIcon(formIcon(texts.nextPicture));
   ui_->btnPrev->setEnabled(step != Introduction);
 }
 

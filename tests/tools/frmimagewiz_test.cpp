@@ -154,6 +154,8 @@ TEST_F(ImageWizard, MovesItsFrame) {
   QTest::keyClick(&canvas(), Qt::Key_Left, Qt::ShiftModifier);
   QTest::keyClick(&canvas(), Qt::Key_Down);
   EXPECT_EQ(place(), QPoint(162, 5));
+  QTest::keyClick(&canvas(), Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(place(), QPoint(162, 0)) << "the picture ends there";
   openPicture(100, 400);
   QTest::mouseClick(&canvas(), Qt::LeftButton, {}, {3, 3});
   EXPECT_EQ(place(), QPoint(-28, 3)) << "the picture is narrower than the frame";
