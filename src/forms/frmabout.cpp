@@ -7,6 +7,8 @@
 #include "preview/faces.h"
 #include "preview/platform.h"
 #include "shell/fileoperation.h"
+#include "shell/gifwriter.h"
+#include "shell/quantize.h"
 #include "theme/archive.h"
 #include "ui_frmabout.h"
 
@@ -33,6 +35,8 @@ struct Library {
 constexpr Library kLibraries[] = {
     {"Qt", qtVersion, "windows, pictures and files", "LGPL-3.0"},
     {"libarchive", archiveLibraryVersion, "theme archives", "BSD-2-Clause"},
+    {"libimagequant", quantizerVersion, "256 colors", "GPL-3.0-or-later"},
+    {"giflib", gifLibraryVersion, "GIF files", "MIT"},
     {"FreeType", freeTypeVersion, "texts of the screens", "FTL or GPL-2.0"},
     {"GLib", glibVersion, "the way to the trash", "LGPL-2.1-or-later"},
     {"Fontconfig", fontconfigVersion, "finding typefaces", "HPND"},

@@ -87,4 +87,8 @@ QByteArray gifOf(const QImage& indexed) {
   return bytes;
 }
 
+QString gifLibraryVersion() {
+  return u"%1.%2.%3"_s.arg(GIFLIB_MAJOR).arg(GIFLIB_MINOR).arg(GIFLIB_RELEASE);
+}
+
 }  // namespace quillane

@@ -114,4 +114,9 @@ QImage reduceTo256(const QImage& picture) {
   return exact.isNull() ? reduced(masked) : exact;
 }
 
+QString quantizerVersion() {
+  const int version = liq_version();
+  return u"%1.%2.%3"_s.arg(version / 10000).arg(version / 100 % 100).arg(version % 100);
+}
+
 }  // namespace quillane

@@ -11,4 +11,7 @@ namespace quillane {
 /// entry of the palette is kept. The same picture always gives the same palette and pixels.
 QImage reduceTo256(const QImage& picture);
 
+/// Version of the library that chooses the colours, as it is in memory: "2.17.0".
+QString quantizerVersion();
+
 }  // namespace quillane
