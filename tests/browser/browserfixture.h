@@ -6,6 +6,7 @@
 #include "forms/filelistbox.h"
 #include "forms/formicons.h"
 #include "forms/picturebox.h"
+#include "support/controls.h"
 #include "support/desktest.h"
 #include "support/scripteddialogs.h"
 #include "support/tinygif.h"
@@ -56,9 +57,7 @@ class BrowserTest : public DeskTest {
 
   template <class Control>
   Control& control(const char* name) {
-    auto* found = browser->findChild<Control*>(name);
-    if (!found) throw std::runtime_error(std::string("no control ") + name);
-    return *found;
+    return controlOf<Control>(*browser, name);
   }
   FileListBox& list() { return control<FileListBox>("filFiles"); }
   void click(const char* button) { control<QToolButton>(button).click(); }

@@ -5,6 +5,7 @@
 #include "browser/tabbutton.h"
 #include "forms/filelistbox.h"
 #include "forms/imagebox.h"
+#include "support/controls.h"
 #include "support/desktest.h"
 #include "support/scripteddialogs.h"
 #include "support/tinygif.h"
@@ -60,9 +61,7 @@ class Properties : public DeskTest {
 
   template <class Control>
   Control& control(const char* name) {
-    auto* found = form->findChild<Control*>(name);
-    if (!found) throw std::runtime_error(std::string("no control ") + name);
-    return *found;
+    return controlOf<Control>(*form, name);
   }
   FileListBox& list() { return control<FileListBox>("filFiles"); }
   ImageBox& picture() { return control<ImageBox>("imgPreview"); }

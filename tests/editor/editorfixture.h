@@ -8,6 +8,7 @@
 #include "editor/imagebutton.h"
 #include "forms/colorfield.h"
 #include "forms/picturebox.h"
+#include "support/controls.h"
 #include "support/desktest.h"
 #include "support/scripteddialogs.h"
 #include "support/tinygif.h"
@@ -69,9 +70,7 @@ class EditorTest : public DeskTest {
 
   template <class Control>
   Control& control(const QString& name) {
-    auto* found = form->findChild<Control*>(name);
-    if (!found) throw std::runtime_error("no control " + name.toStdString());
-    return *found;
+    return controlOf<Control>(*form, name);
   }
   /// Brings a control's tab to the front and clicks it.
   void click(const QString& name, Qt::MouseButton button = Qt::LeftButton) {

@@ -6,6 +6,7 @@
 #include "shell/palette.h"
 #include "shell/settings.h"
 #include "shell/state.h"
+#include "support/controls.h"
 #include "support/scripteddialogs.h"
 #include "support/tempfolder.h"
 #include "tools/colorpalette.h"
@@ -37,9 +38,7 @@ class ColorPicker : public TempFolder {
 
   template <class Control>
   Control& control(const QString& name) {
-    auto* found = form->findChild<Control*>(name);
-    if (!found) throw std::runtime_error("no control " + name.toStdString());
-    return *found;
+    return controlOf<Control>(*form, name);
   }
   void click(const char* name) {
     QTest::mouseClick(&control<QWidget>(name), Qt::LeftButton);

@@ -5,6 +5,7 @@
 #include "forms/formcolors.h"
 #include "forms/picturebox.h"
 #include "preview/screens.h"
+#include "support/controls.h"
 #include "support/probes.h"
 #include "support/scripteddialogs.h"
 
@@ -44,9 +45,7 @@ class PreviewAll : public testing::Test {
 
   template <class Control>
   Control& control(const QString& name) {
-    auto* found = form->findChild<Control*>(name);
-    if (!found) throw std::runtime_error("no control " + name.toStdString());
-    return *found;
+    return controlOf<Control>(*form, name);
   }
   PictureBox& pane(int index) { return control<PictureBox>(QString("picPreview_%1").arg(index)); }
   QScrollBar& bar() { return control<QScrollBar>("hsbScroll"); }
