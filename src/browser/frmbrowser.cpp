@@ -155,7 +155,7 @@ void frmBrowser::closeEvent(QCloseEvent* event) {
 
 void frmBrowser::Form_Unload() {
   Tips.reset();
-  captureWizard_.reset();
+  if (captureWizard_) captureWizard_->close();
   state_.PreviewEngine2.reset();
   state_.EditorEngine2.reset();
   DeleteFiles(state_.AppTempFolder + "*.*"_L1);

@@ -152,7 +152,7 @@ QImage frmBrowser::panePicture(int pane) {
 void frmBrowser::makePaneMenus() {
   for (QMenu* menu : {mnuPopup_, mnuPopup3_})
     connect(menu->addAction(u"Vistrel &Capture..."_s), &QAction::triggered, this,
-            &frmBrowser::showCaptureWizard);
+            [this] { run("mnuPopupItem_Click"_L1, [this] { showCaptureWizard(); }); });
   connect(mnuPopup_->addAction(u"E&xtract Image..."_s), &QAction::triggered, this,
           [this] { run("mnuPopupItem_Click"_L1, [this] { mnuPopupItem_Extract(); }); });
   for (const ExtractItem3G& item : extractItems3G())

@@ -4,6 +4,7 @@
 #include "editor/editorform.h"
 #include "forms/clsopensave.h"
 #include "forms/dialogs.h"
+#include "forms/eventprocedure.h"
 #include "forms/sourcedialog.h"
 #include "preview/previewengine.h"
 #include "shell/files.h"
@@ -19,8 +20,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
-
-#include <cstdio>
 
 namespace quillane {
 
@@ -70,8 +69,7 @@ void EditorForm::btnSave_Click(int index) {
                        .includeIndex = desk_.state.IncludeIndexFile,
                        .compress = desk_.state.CompressXMLCode,
                        .workFolder = desk_.state.AppTempFolder};
-  // No box, by design; whoever started the program in a terminal is told.
-  saveTheme(save, [](const Fault& fault) { std::fprintf(stderr, "quillane: %s\n", fault.what()); });
+  saveTheme(save, tellTerminal);
   EditorThemeFile = save.themePath;
   showCaption();
 }

@@ -5,6 +5,7 @@
 #include "editor/imagebutton.h"
 #include "forms/clsopensave.h"
 #include "forms/dialogs.h"
+#include "forms/picturefilters.h"
 #include "preview/picture.h"
 #include "preview/previewengine.h"
 #include "shell/files.h"
@@ -19,8 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kGifFilter = "CompuServe Graphics Interchange (*.gif)|*.gif"_L1;
-constexpr auto kJpegFilter = "|JPEG Files (*.jpg)|*.jpg"_L1;
+constexpr PictureKind kKinds[] = {PictureKind::Gif, PictureKind::Jpeg};
 constexpr int kGifFilterIndex = 1;
 constexpr int kJpegFilterIndex = 2;
 
@@ -52,8 +52,8 @@ clsOpenSave EditorForm::imageDialog(const ImageElement& element) const {
   dialog.DialogTitle = imageDialogTitle(element);
   dialog.InitDir = desk_.state.ImageFolder;
   dialog.FileName = u"*.gif"_s;
-  dialog.Filter = kGifFilter;
-  if (engine_.values().schema().takesJpeg) dialog.Filter += kJpegFilter;
+  dialog.Filter =
+      pictureFilter(std::span(kKinds).first(engine_.values().schema().takesJpeg ? 2 : 1));
   return dialog;
 }
 

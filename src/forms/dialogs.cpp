@@ -5,6 +5,7 @@
 #include "forms/chourglass.h"
 #include "forms/clsopensave.h"
 #include "forms/formcolors.h"
+#include "shell/files.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -12,8 +13,10 @@
 #include <QCursor>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextDocument>
 
 namespace quillane {
@@ -99,6 +102,11 @@ QString titleText(QString text) {
   return text.replace("[*]"_L1, "[*][*]"_L1);
 }
 
+QString suffixOf(const QString& nameFilter) {
+  static const QRegularExpression one(u"\\(\\*\\.(\\w+)\\)$"_s);
+  return one.match(nameFilter).captured(1);
+}
+
 bool askFolder(Dialogs& dialogs, QWidget* owner, const QString& prompt, QString& remembered) {
   const QString folder = dialogs.BrowseForFolder(owner, remembered, prompt);
   if (folder.isEmpty()) return false;
@@ -137,6 +145,19 @@ QString DesktopDialogs::BrowseForFolder(QWidget* owner, const QString& startFold
   return QFileDialog::getExistingDirectory(owner, prompt, startFolder);
 }
 
+namespace {
+
+/// Whether a file can lie where it was asked for; says so when its folder is not there.
+bool folderExists(Dialogs& dialogs, QWidget* owner, const QString& path) {
+  const QString folder = QFileInfo(path).path();
+  if (FolderExists(folder)) return true;
+  dialogs.message(owner, MessageIcon::Warning, QString(),
+                  u"The folder \"%1\" does not exist. Choose another one."_s.arg(folder));
+  return false;
+}
+
+}  // namespace
+
 bool DesktopDialogs::chooseFile(QWidget* owner, clsOpenSave& request, FileQuestion question) {
   QFileDialog dialog(owner, request.DialogTitle, request.InitDir);
   const bool saving = question == FileQuestion::Save;
@@ -147,15 +168,17 @@ bool DesktopDialogs::chooseFile(QWidget* owner, clsOpenSave& request, FileQuesti
   dialog.setNameFilters(filters);
   dialog.selectNameFilter(filters.value(request.FilterIndex - 1));
   // A name typed without an ending gets that of the kind that was chosen.
-  QObject::connect(&dialog, &QFileDialog::filterSelected, [&](const QString& chosen) {
-    const QString ending = chosen.section(u"(*."_s, 1, 1).chopped(1);
-    if (ending != u"*"_s) dialog.setDefaultSuffix(ending);
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& chosen) {
+    if (!suffixOf(chosen).isEmpty()) dialog.setDefaultSuffix(suffixOf(chosen));
   });
   // A pattern offers no file.
   if (!request.FileName.contains(u'*')) dialog.selectFile(request.FileName);
-  if (dialog.exec() != QDialog::Accepted) return false;
-  request.FileName = dialog.selectedFiles().constFirst();
-  request.FilterIndex = static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1;
+  do {
+    if (dialog.exec() != QDialog::Accepted) return false;
+    request.FileName = dialog.selectedFiles().constFirst();
+  } while (!folderExists(*this, owner, request.FileName));
+  // A desktop's own dialog may answer with a filter of its own.
+  request.FilterIndex = static_cast<int>(qMax(0, filters.indexOf(dialog.selectedNameFilter()))) + 1;
   return true;
 }
 

@@ -84,6 +84,10 @@ QString tipText(const QString& text);
 /// of an unsaved document.
 QString titleText(QString text);
 
+/// The ending that a filter of Qt stands for, as "gif" for "Pictures (*.gif)"; empty for one with
+/// several patterns or none.
+QString suffixOf(const QString& nameFilter);
+
 /// Asks for a folder, beginning at the remembered one, which becomes the answer. False when the
 /// person cancels.
 bool askFolder(Dialogs& dialogs, QWidget* owner, const QString& prompt, QString& remembered);

@@ -11,6 +11,9 @@ namespace quillane {
 /// "in Quillane.frmBrowser.btnCopy_Click ", and the line.
 void showFault(Dialogs& dialogs, QWidget* owner, const Fault& fault, const QString& tag);
 
+/// Tells whoever started the program in a terminal of a fault that by design shows no box.
+void tellTerminal(const Fault& fault);
+
 /// Runs an event procedure. A fault ends it with the standard message; a cancelled dialog ends it
 /// in silence.
 template <typename Procedure>

@@ -10,8 +10,6 @@
 
 namespace quillane {
 
-class Surface;
-
 /// How much of the margin around the simulated screen a picture of it keeps.
 enum class Border : std::uint8_t {
   None,     ///< The screen alone.
@@ -19,7 +17,7 @@ enum class Border : std::uint8_t {
   Default,  ///< The whole surface.
 };
 
-/// A copy of the screen on a surface with so much of its margin.
-QImage framedScreen(const Surface& surface, Generation generation, Border border);
+/// A copy of the screen in the picture of a surface, with so much of its margin.
+QImage framedScreen(const QImage& surface, Generation generation, Border border);
 
 }  // namespace quillane

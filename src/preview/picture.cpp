@@ -44,10 +44,6 @@ QByteArray formatOf(const QByteArray& start) {
   return {};
 }
 
-bool isTooLarge(QSize size) {
-  return qAbs(size.width()) > kLongestSide || qAbs(size.height()) > kLongestSide;
-}
-
 /// The little-endian number of `width` bytes at a place; 0 beyond the end.
 qint64 numberAt(const QByteArray& bytes, qint64 at, int width) {
   qint64 number = 0;
@@ -117,6 +113,10 @@ Picture decodeOnce(const QByteArray& bytes) {
 
 }  // namespace
 
+bool isTooLarge(QSize size) {
+  return qAbs(size.width()) > kLongestSide || qAbs(size.height()) > kLongestSide;
+}
+
 Picture::Picture(QImage image) : image_(std::move(image).convertToFormat(QImage::Format_ARGB32)) {
   image_.setDevicePixelRatio(1);
   for (int y = 0; y < image_.height(); ++y) {
@@ -138,7 +138,9 @@ Picture LoadPicture(const QString& path) {
   Picture picture = decodeOnce(readFile(path));
   if (picture.isNull())
     throw Fault(FaultNumber::BadPicture,
-                u"\"%1\" is no GIF, JPEG, BMP or icon file that can be shown."_s.arg(path));
+                u"\"%1\" is no GIF, JPEG, BMP or icon file that can be shown, or has more than %2 "
+                "pixels a side."_s.arg(path)
+                    .arg(kLongestSide));
   return picture;
 }
 

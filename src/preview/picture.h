@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <QSize>
 #include <QString>
 
 namespace quillane {
@@ -24,6 +25,9 @@ class Picture {
  private:
   QImage image_;
 };
+
+/// Whether a picture has more pixels a side (4096) than the program works with.
+bool isTooLarge(QSize size);
 
 /// Reads a GIF (first frame on its logical screen), JPEG, BMP or icon file, by content. Throws
 /// `Fault` (BadPicture, FileNotFound), also for a side above 4096 pixels.

@@ -40,7 +40,7 @@ int qualityOf(const QString& section, const QString& key, int standard, int leas
 QImage onWhite(const QImage& picture) {
   QImage opaque(picture.size(), QImage::Format_RGB32);
   opaque.fill(Qt::white);
-  QPainter(&opaque).drawImage(0, 0, picture);
+  QPainter(&opaque).drawImage(opaque.rect(), picture);
   return opaque;
 }
 

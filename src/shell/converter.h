@@ -7,8 +7,8 @@
 
 namespace quillane {
 
-/// The kinds of picture files that the program writes, in the order in which dialogs offer them.
-enum class PictureKind { Gif = 1, Jpeg, Png, Bmp };
+/// The kinds of picture files that the program writes.
+enum class PictureKind { Gif, Jpeg, Png, Bmp };
 
 /// Whether pictures can be written as GIF, JPEG and PNG on this machine.
 bool canConvert();

@@ -25,7 +25,7 @@ int append(GifFileType* gif, const GifByteType* bytes, int size) {
 class Writer {
  public:
   explicit Writer(QByteArray& bytes) : gif_(EGifOpen(&bytes, append, nullptr)) {
-    demand(gif_ ? GIF_OK : GIF_ERROR);
+    demand(gif_ != nullptr);
   }
   ~Writer() {
     if (gif_) EGifCloseFile(gif_, nullptr);
@@ -40,27 +40,28 @@ class Writer {
     const int bits = GifBitSize(static_cast<int>(colors.size()));
     const std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)> map(
         GifMakeMapObject(1 << bits, nullptr), &GifFreeMapObject);
-    demand(map ? GIF_OK : GIF_ERROR);
+    demand(map != nullptr);
     std::transform(colors.begin(), colors.end(), map->Colors, [](QRgb color) {
       return GifColorType{static_cast<GifByteType>(qRed(color)),
                           static_cast<GifByteType>(qGreen(color)),
                           static_cast<GifByteType>(qBlue(color))};
     });
-    demand(EGifPutScreenDesc(gif_, size.width(), size.height(), bits, 0, map.get()));
+    demand(EGifPutScreenDesc(gif_, size.width(), size.height(), bits, 0, map.get()) == GIF_OK);
     if (isMasked) markTransparent(static_cast<int>(transparent - colors.begin()));
-    demand(EGifPutImageDesc(gif_, 0, 0, size.width(), size.height(), false, nullptr));
+    demand(EGifPutImageDesc(gif_, 0, 0, size.width(), size.height(), false, nullptr) == GIF_OK);
   }
 
   void line(const uchar* pixels, int width) {
+    // The library masks the bits of the line in its place.
     QList<GifPixelType> line(pixels, pixels + width);
-    demand(EGifPutLine(gif_, line.data(), width));
+    demand(EGifPutLine(gif_, line.data(), width) == GIF_OK);
   }
 
-  void end() { demand(EGifCloseFile(std::exchange(gif_, nullptr), nullptr)); }
+  void end() { demand(EGifCloseFile(std::exchange(gif_, nullptr), nullptr) == GIF_OK); }
 
  private:
-  static void demand(int result) {
-    if (result != GIF_OK)
+  static void demand(bool done) {
+    if (!done)
       throw Fault(FaultNumber::BadPicture, u"The picture could not be written as a GIF."_s);
   }
 
@@ -69,7 +70,7 @@ class Writer {
     std::array<GifByteType, 4> bytes{};
     EGifGCBToExtension(&block, bytes.data());
     demand(EGifPutExtension(gif_, GRAPHICS_EXT_FUNC_CODE, static_cast<int>(bytes.size()),
-                            bytes.data()));
+                            bytes.data()) == GIF_OK);
   }
 
   GifFileType* gif_;

@@ -19,7 +19,7 @@ constexpr int kMostColors = 256;
 constexpr int kLeastAlpha = 128;
 constexpr QRgb kTransparent = qRgba(0, 0, 0, 0);
 
-// Pinned, so that a picture gives the same bytes in every version of ours.
+// Pinned, so that a picture gives the same bytes as long as the library stays the same.
 constexpr int kSpeed = 3;
 constexpr float kDithering = 1.0F;
 
@@ -64,8 +64,8 @@ QImage exactly(const QImage& masked) {
   return indexed;
 }
 
-void demand(liq_error error) {
-  if (error != LIQ_OK)
+void demand(bool done) {
+  if (!done)
     throw Fault(FaultNumber::BadPicture,
                 u"The colors of the picture could not be reduced to 256."_s);
 }
@@ -78,24 +78,23 @@ struct Release {
 
 QImage reduced(const QImage& masked) {
   const std::unique_ptr<liq_attr, Release> attributes(liq_attr_create());
-  demand(attributes ? LIQ_OK : LIQ_OUT_OF_MEMORY);
-  liq_set_speed(attributes.get(), kSpeed);
+  demand(attributes && liq_set_speed(attributes.get(), kSpeed) == LIQ_OK);
   const QImage rgba = masked.convertToFormat(QImage::Format_RGBA8888);
   QList<void*> rows;
   for (int y = 0; y < rgba.height(); ++y)
     rows << const_cast<uchar*>(rgba.constScanLine(y));  // The library only reads them.
   const std::unique_ptr<liq_image, Release> image(
       liq_image_create_rgba_rows(attributes.get(), rows.data(), rgba.width(), rgba.height(), 0));
-  demand(image ? LIQ_OK : LIQ_OUT_OF_MEMORY);
+  demand(image != nullptr);
   liq_result* made = nullptr;
-  demand(liq_image_quantize(image.get(), attributes.get(), &made));
+  demand(liq_image_quantize(image.get(), attributes.get(), &made) == LIQ_OK);
   const std::unique_ptr<liq_result, Release> result(made);
-  liq_set_dithering_level(result.get(), kDithering);
+  demand(liq_set_dithering_level(result.get(), kDithering) == LIQ_OK);
   QImage indexed = emptyIndexed(masked);
   QList<uchar*> lines;
   for (int y = 0; y < indexed.height(); ++y)
     lines << indexed.scanLine(y);
-  demand(liq_write_remapped_image_rows(result.get(), image.get(), lines.data()));
+  demand(liq_write_remapped_image_rows(result.get(), image.get(), lines.data()) == LIQ_OK);
   const liq_palette* palette = liq_get_palette(result.get());
   QList<QRgb> colors;
   for (unsigned i = 0; i < palette->count; ++i) {

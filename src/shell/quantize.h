@@ -8,7 +8,8 @@ namespace quillane {
 
 /// The picture as a palette of at most 256 colours, dithered where it has more; one with fewer
 /// keeps them all exactly. A pixel that is less than half opaque becomes transparent, for which one
-/// entry of the palette is kept. The same picture always gives the same palette and pixels.
+/// entry of the palette is kept. With one version of the library the same
+/// picture always gives the same palette and pixels.
 QImage reduceTo256(const QImage& picture);
 
 /// Version of the library that chooses the colours, as it is in memory: "2.17.0".

@@ -84,7 +84,7 @@ RenderedScreen paint(const Screen<typename Painting::Engine>& screen,
   } catch (const Fault& fault) {
     result.fault = QString(fault.description()).remove(workFolder + u'/');
   }
-  result.image = framedScreen(surface, Painting::kGeneration, border);
+  result.image = framedScreen(surface.image(), Painting::kGeneration, border);
   return result;
 }
 

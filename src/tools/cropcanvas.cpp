@@ -28,9 +28,9 @@ CropCanvas::CropCanvas(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
 }
 
-void CropCanvas::setPicture(const QImage& picture) {
+void CropCanvas::setPicture(const QImage& picture, QSize area) {
   picture_ = picture;
-  setGeometry(QRect(QPoint(0, 0), picture.size()));
+  resize(area);
   update();
 }
 
@@ -61,11 +61,6 @@ void CropCanvas::mousePressEvent(QMouseEvent* event) {
 
 void CropCanvas::mouseMoveEvent(QMouseEvent* event) {
   tellMove(*event);
-}
-
-void CropCanvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-    Q_EMIT Click();
 }
 
 void CropCanvas::keyPressEvent(QKeyEvent* event) {

@@ -16,7 +16,8 @@ class CropCanvas : public QWidget {
  public:
   explicit CropCanvas(QWidget* parent = nullptr);
 
-  void setPicture(const QImage& picture);
+  /// Shows a picture in the upper left corner of an area of so many pixels.
+  void setPicture(const QImage& picture, QSize area);
   /// The frame in pixels of the picture; a null one hides it.
   void setFrame(const QRect& frame);
   const QRect& frame() const { return frame_; }
@@ -25,7 +26,6 @@ class CropCanvas : public QWidget {
  Q_SIGNALS:
   /// The mouse is at a pixel, with the left button held or not.
   void MouseMove(bool held, QPoint pixel);
-  void Click();
   /// An arrow key asks for the frame to be moved by so many pixels.
   void Nudge(QPoint pixels);
 
@@ -33,7 +33,6 @@ class CropCanvas : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

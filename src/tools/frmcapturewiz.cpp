@@ -8,11 +8,13 @@
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
 #include "forms/formicons.h"
+#include "forms/picturefilters.h"
 #include "shell/converter.h"
 #include "shell/files.h"
 #include "shell/state.h"
 #include "ui_frmcapturewiz.h"
 
+#include <QActionGroup>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
@@ -44,37 +46,15 @@ constexpr ButtonPicture kPictures[] = {{"btnCapture", 117},
                                        {"btnBorder_1", 152},
                                        {"btnBorder_2", 153}};
 constexpr int kDropDownPicture = 131;
-constexpr int kDefaultBorder = 2;
-
-/// What the choices of a border leave of a whole screen.
-struct Cut {
-  QRect two;
-  QRect threeG;
-};
-constexpr Cut kCuts[] = {
-    {{5, 5, 101, 80}, {5, 5, 128, 160}},
-    {{4, 4, 103, 82}, {4, 4, 130, 162}},
-    {{0, 0, 111, 91}, {0, 0, 138, 171}},
-};
-
 /// How far the result stands below the middle, for the toolbar above.
 constexpr int kBelowMiddle = 10;
 
-struct Kind {
-  const char* filter;
-  const char* ending;
-  PictureKind kind;
-};
-constexpr Kind kKinds[] = {
-    {"CompuServe Graphics Interchange (*.gif)|*.gif", ".gif", PictureKind::Gif},
-    {"JPEG Files (*.jpg)|*.jpg", ".jpg", PictureKind::Jpeg},
-    {"Portable Network Graphics (*.png)|*.png", ".png", PictureKind::Png},
-    {"Windows Bitmap (*.bmp)|*.bmp", ".bmp", PictureKind::Bmp},
-};
+constexpr PictureKind kKinds[] = {PictureKind::Gif, PictureKind::Jpeg, PictureKind::Png,
+                                  PictureKind::Bmp};
 
 /// The kinds that a capture can be saved as: all, or the last alone.
-std::span<const Kind> kindsFor(bool canConvert) {
-  const std::span<const Kind> all(kKinds);
+std::span<const PictureKind> kindsFor(bool canConvert) {
+  const std::span<const PictureKind> all(kKinds);
   return canConvert ? all : all.last(1);
 }
 
@@ -88,8 +68,7 @@ frmCaptureWiz::frmCaptureWiz(QWidget* owner, PublicState& state, Dialogs& dialog
       dialogs_(dialogs),
       panePicture_(std::move(panePicture)),
       mnuPopup_(makeMenu(u"mnuPopup"_s, Generation::Two)),
-      mnuPopup2_(makeMenu(u"mnuPopup2"_s, Generation::ThreeG)),
-      border_(kDefaultBorder) {
+      mnuPopup2_(makeMenu(u"mnuPopup2"_s, Generation::ThreeG)) {
   ui_->setupUi(this);
   connectSignals();
   Form_Load();
@@ -98,19 +77,7 @@ frmCaptureWiz::frmCaptureWiz(QWidget* owner, PublicState& state, Dialogs& dialog
 frmCaptureWiz::~frmCaptureWiz() = default;
 
 void frmCaptureWiz::connectSignals() {
-  connect(ui_->area, &FormArea::Paint, this, [this](Bevel& bevel) {
-    DrawEtchedLine(bevel, width(), 23);
-    for (const int x : {66, 132}) {
-      bevel.shadow(x, 0, x, 22);
-      bevel.light(x + 1, 0, x + 1, 22);
-    }
-    // The border of a screen has the colour of the form; without a line nobody sees where it ends.
-    const QRect edge = ui_->picCapture->geometry().adjusted(-1, -1, 1, 1);
-    bevel.shadow(edge.left(), edge.top(), edge.right(), edge.top());
-    bevel.shadow(edge.left(), edge.top(), edge.left(), edge.bottom());
-    bevel.light(edge.left(), edge.bottom(), edge.right(), edge.bottom());
-    bevel.light(edge.right(), edge.top(), edge.right(), edge.bottom() + 1);
-  });
+  connect(ui_->area, &FormArea::Paint, this, &frmCaptureWiz::Form_Paint);
   connect(ui_->btnVistrel, &QAbstractButton::clicked, this, &frmCaptureWiz::btnVistrel_Click);
   connect(ui_->btnClipboardCopy, &QAbstractButton::clicked, this,
           &frmCaptureWiz::btnClipboardCopy_Click);
@@ -118,10 +85,26 @@ void frmCaptureWiz::connectSignals() {
     eventProcedure(dialogs_, this, u"in Quillane.frmCaptureWiz.btnCapture_Click "_s,
                    [this] { btnCapture_Click(); });
   });
-  QAbstractButton* const borders[] = {ui_->btnBorder_0, ui_->btnBorder_1, ui_->btnBorder_2};
-  for (int index = 0; index < static_cast<int>(std::size(borders)); ++index)
-    connect(borders[index], &QAbstractButton::clicked, this,
-            [this, index] { btnBorder_Click(index); });
+  const std::pair<QAbstractButton*, Border> borders[] = {{ui_->btnBorder_0, Border::None},
+                                                         {ui_->btnBorder_1, Border::Single},
+                                                         {ui_->btnBorder_2, Border::Default}};
+  for (const auto& [button, border] : borders)
+    connect(button, &QAbstractButton::clicked, this,
+            [this, border = border] { btnBorder_Click(border); });
+}
+
+void frmCaptureWiz::Form_Paint(Bevel& bevel) {
+  DrawEtchedLine(bevel, width(), 23);
+  for (const int x : {66, 132}) {
+    bevel.shadow(x, 0, x, 22);
+    bevel.light(x + 1, 0, x + 1, 22);
+  }
+  // The border of a screen has the colour of the form; without a line nobody sees where it ends.
+  const QRect edge = ui_->picCapture->geometry().adjusted(-1, -1, 1, 1);
+  bevel.shadow(edge.left(), edge.top(), edge.right(), edge.top());
+  bevel.shadow(edge.left(), edge.top(), edge.left(), edge.bottom());
+  bevel.light(edge.left(), edge.bottom(), edge.right(), edge.bottom());
+  bevel.light(edge.right(), edge.top(), edge.right(), edge.bottom() + 1);
 }
 
 void frmCaptureWiz::Form_Load() {
@@ -133,11 +116,15 @@ void frmCaptureWiz::Form_Load() {
 QMenu* frmCaptureWiz::makeMenu(const QString& name, Generation generation) {
   auto* made = new QMenu(this);
   made->setObjectName(name);
+  auto* group = new QActionGroup(made);
   int item = 0;
   for (const char* caption : screensOf(generation)) {
     QAction* action = made->addAction(QLatin1String(caption));
     action->setCheckable(true);
-    connect(action, &QAction::triggered, this, [this, item = ++item] { mnuPopupItem_Click(item); });
+    group->addAction(action);
+    connect(action, &QAction::triggered, this, [this, generation, item = ++item] {
+      if (generation == state_.ThemeGeneration) mnuPopupItem_Click(item);
+    });
   }
   return made;
 }
@@ -167,8 +154,7 @@ void frmCaptureWiz::Form_Activate() {
 void frmCaptureWiz::mnuPopupItem_Click(int item) {
   picTempPic = panePicture_(item);
   generation_ = state_.ThemeGeneration;
-  for (QAction* action : menu().actions())
-    action->setChecked(action == menu().actions().at(item - 1));
+  menu().actions().at(item - 1)->setChecked(true);
   state_.CapturePane = static_cast<std::uint8_t>(item);
   showResult();
 }
@@ -177,18 +163,17 @@ void frmCaptureWiz::btnVistrel_Click() {
   menu().popup(ui_->area->mapToGlobal(QPoint(0, ui_->btnVistrel->height())));
 }
 
-void frmCaptureWiz::btnBorder_Click(int index) {
-  border_ = index;
+void frmCaptureWiz::btnBorder_Click(Border border) {
+  border_ = border;
   showResult();
 }
 
 void frmCaptureWiz::showResult() {
-  const Cut& cut = kCuts[border_];
-  const QRect& kept = generation_ == Generation::ThreeG ? cut.threeG : cut.two;
-  ui_->picCapture->setPicture(picTempPic.copy(kept));
-  ui_->picCapture->setGeometry(width() / 2 - kept.width() / 2,
-                               height() / 2 - kept.height() / 2 + kBelowMiddle, kept.width(),
-                               kept.height());
+  const QImage result = framedScreen(picTempPic, generation_, border_);
+  ui_->picCapture->setPicture(result);
+  ui_->picCapture->setGeometry(width() / 2 - result.width() / 2,
+                               height() / 2 - result.height() / 2 + kBelowMiddle, result.width(),
+                               result.height());
   ui_->area->update();
 }
 
@@ -197,19 +182,16 @@ void frmCaptureWiz::btnClipboardCopy_Click() {
 }
 
 void frmCaptureWiz::btnCapture_Click() {
-  const std::span<const Kind> kinds = kindsFor(state_.IViewPresent);
-  QStringList filters;
-  for (const Kind& kind : kinds)
-    filters << QLatin1String(kind.filter);
+  const std::span<const PictureKind> kinds = kindsFor(state_.IViewPresent);
   clsOpenSave dialog(dialogs_);
   dialog.DialogTitle = u"Save image"_s;
   dialog.InitDir = state_.CaptureFolder;
-  dialog.DefaultExt = QLatin1String(kinds.front().ending);
-  dialog.Filter = filters.join(u'|');
+  dialog.DefaultExt = pictureEnding(kinds.front());
+  dialog.Filter = pictureFilter(kinds);
   dialog.ShowSave(this);
   state_.CaptureFolder = SplitPath(dialog.FileName, PathPart::Folder);
   const cHourglass wait;
-  const PictureKind offered = kinds[static_cast<std::size_t>(dialog.FilterIndex - 1)].kind;
+  const PictureKind offered = kinds[static_cast<std::size_t>(dialog.FilterIndex - 1)];
   savePicture(ui_->picCapture->picture(), dialog.FileName, convertedKind(offered, dialog.FileName),
               state_.QualitiesFile);
 }

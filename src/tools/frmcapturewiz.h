@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "preview/border.h"
 #include "theme/values.h"
 
 #include <QDialog>
@@ -18,6 +19,7 @@ class frmCaptureWiz;
 
 namespace quillane {
 
+class Bevel;
 class Dialogs;
 struct PublicState;
 
@@ -44,11 +46,12 @@ class frmCaptureWiz : public QDialog {
  private:
   void connectSignals();
   void Form_Load();
+  void Form_Paint(Bevel& bevel);
   QMenu* makeMenu(const QString& name, Generation generation);
   void Form_Activate();
   void mnuPopupItem_Click(int item);
   void btnVistrel_Click();
-  void btnBorder_Click(int index);
+  void btnBorder_Click(Border border);
   void btnClipboardCopy_Click();
   void btnCapture_Click();
   /// Cuts the result out of the whole screen.
@@ -63,7 +66,7 @@ class frmCaptureWiz : public QDialog {
   QMenu* mnuPopup2_;
   QImage picTempPic;                         ///< The picked screen, whole.
   Generation generation_ = Generation::Two;  ///< Of the picked screen.
-  int border_;
+  Border border_ = Border::Default;
 };
 
 }  // namespace quillane

@@ -8,18 +8,20 @@
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
 #include "forms/formicons.h"
+#include "forms/picturefilters.h"
 #include "preview/picture.h"
 #include "shell/files.h"
 #include "shell/state.h"
 #include "tools/cropcanvas.h"
+#include "tools/placebox.h"
 #include "ui_frmimagewiz.h"
 
+#include <QActionGroup>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
-#include <QRegularExpressionValidator>
 
 #include <algorithm>
 
@@ -57,24 +59,30 @@ constexpr ButtonPicture kPictures[] = {
     {"btnToolbar_8", 146}, {"btnToolbar_9", 150}, {"btnToolbar_10", 147},
 };
 
-constexpr QLatin1String kSaveFilter(
-    "CompuServe Graphics Interchange (*.gif)|*.gif|JPEG Files (*.jpg)|*.jpg");
-constexpr QLatin1String kOpenFilter(
-    "CompuServe Graphics Interchange (*.gif)|*.gif|JPEG Files (*.jpg)|*.jpg|"
-    "Windows Bitmap (*.bmp)|*.bmp");
+constexpr PictureKind kSaved[] = {PictureKind::Gif, PictureKind::Jpeg};
+constexpr PictureKind kOpened[] = {PictureKind::Gif, PictureKind::Jpeg, PictureKind::Bmp};
 
 /// Where the result stands.
 constexpr QPoint kCropPlace(420, 52);
-/// The room that two scroll bars, or one, take in the frame around the picture.
-constexpr int kBothBars = 18;
-constexpr int kOneBar = 2;
+/// What the edge of the frame around the picture takes of a scroll bar's length, and what the edge
+/// and the other bar take.
+constexpr int kEdges = 2;
+constexpr int kEdgesAndBar = 18;
+/// The frame jumps to the end of the picture when it is so near.
+constexpr int kSnap = 2;
 
-/// Longest side of a picture in pixels.
-constexpr int kLongestSide = 4096;
-
+/// The picture in the clipboard; a null one when there is none. Throws `Fault` for one too large.
 QImage clipboardPicture() {
   const QMimeData* clip = QGuiApplication::clipboard()->mimeData();
-  return clip && clip->hasImage() ? qvariant_cast<QImage>(clip->imageData()) : QImage();
+  if (!clip || !clip->hasImage()) return {};
+  auto picture = qvariant_cast<QImage>(clip->imageData());
+  if (isTooLarge(picture.size()))
+    throw Fault(FaultNumber::BadPicture,
+                u"The image in the Clipboard has %1 x %2 pixels, which are too many a side."_s
+                    .arg(picture.width())
+                    .arg(picture.height()));
+  picture.setDevicePixelRatio(1);
+  return picture;
 }
 
 }  // namespace
@@ -115,7 +123,6 @@ void frmImageWiz::connectSignals() {
   connect(ui_->area, &FormArea::Paint, this,
           [this](Bevel& bevel) { DrawEtchedLine(bevel, width(), 26); });
   connect(ui_->picImage, &CropCanvas::MouseMove, this, &frmImageWiz::picImage_MouseMove);
-  connect(ui_->picImage, &CropCanvas::Click, this, &frmImageWiz::picImage_Click);
   connect(ui_->picImage, &CropCanvas::Nudge, this, &frmImageWiz::nudgeFrame);
   connect(ui_->txtX, &QLineEdit::returnPressed, this,
           [this] { txtXY_Enter(*ui_->txtX, ImageW - ui_->picImage->frame().width()); });
@@ -128,13 +135,12 @@ void frmImageWiz::connectSignals() {
 void frmImageWiz::Form_Load() {
   dressButtons(*this, kPictures);
   makeSizesMenu();
-  for (QLineEdit* box : {ui_->txtX, ui_->txtY})
-    box->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,4}"_s), this));
   setFixedSize(size());
 }
 
 void frmImageWiz::makeSizesMenu() {
   mnuPopup_->setObjectName(u"mnuPopup"_s);
+  auto* group = new QActionGroup(mnuPopup_);
   for (int row = 0; row < static_cast<int>(std::size(kSizes)); ++row) {
     if (!kSizes[row].caption) {
       mnuPopup_->addSeparator();
@@ -143,16 +149,14 @@ void frmImageWiz::makeSizesMenu() {
     QAction* item = mnuPopup_->addAction(QLatin1String(kSizes[row].caption));
     item->setObjectName(u"mnuPopupItem_%1"_s.arg(row + 1));
     item->setCheckable(true);
+    group->addAction(item);
     connect(item, &QAction::triggered, this, [this, row] { mnuPopupItem_Click(row + 1); });
   }
 }
 
 void frmImageWiz::mnuPopupItem_Click(int item) {
-  for (QAction* other : mnuPopup_->actions())
-    other->setChecked(other == mnuPopup_->actions().at(item - 1));
   const QSize size = kSizes[item - 1].size;
-  ui_->vsbHeight->setValue(0);
-  ui_->hsbWidth->setValue(0);
+  scrollHome();
   ui_->picImage->setFrame(QRect(QPoint(0, 0), size));
   ui_->lblSizeHint->hide();
   ui_->lblResult->show();
@@ -174,42 +178,45 @@ void frmImageWiz::btnToolbar_Open() {
   clsOpenSave dialog(dialogs_);
   dialog.DialogTitle = u"Open image"_s;
   dialog.InitDir = state_.ImageWizOpenFolder;
-  dialog.DefaultExt = u".gif"_s;
-  dialog.Filter = kOpenFilter;
+  dialog.DefaultExt = pictureEnding(kOpened[0]);
+  dialog.Filter = pictureFilter(kOpened);
   dialog.ShowOpen(this);
-  OpenFileName = dialog.FileName;
-  state_.ImageWizOpenFolder = SplitPath(OpenFileName, PathPart::Folder);
+  state_.ImageWizOpenFolder = SplitPath(dialog.FileName, PathPart::Folder);
   const cHourglass wait;
-  LoadImage(OpenFileName);
+  LoadImage(dialog.FileName);
+  OpenFileName = dialog.FileName;
 }
 
 void frmImageWiz::btnToolbar_Save() {
-  if (SaveFileName.isEmpty()) askWhereToSave(u"Save image"_s, u"New Image.gif"_s);
-  saveCrop();
+  if (SaveFileName.isEmpty())
+    saveCropAs(u"Save image"_s, u"New Image.gif"_s);
+  else
+    saveCrop(SaveFileName, saveKind_);
 }
 
 void frmImageWiz::btnToolbar_SaveAs() {
-  askWhereToSave(u"Save image as"_s, SplitPath(SaveFileName, PathPart::Name));
-  saveCrop();
+  saveCropAs(u"Save image as"_s, SplitPath(SaveFileName, PathPart::Name));
 }
 
-void frmImageWiz::askWhereToSave(const QString& title, const QString& offered) {
+void frmImageWiz::saveCropAs(const QString& title, const QString& offered) {
   clsOpenSave dialog(dialogs_);
   dialog.DialogTitle = title;
   dialog.InitDir = state_.ImageWizSaveFolder;
   dialog.FileName = state_.ImageWizSaveFolder + offered;
-  dialog.DefaultExt = u".gif"_s;
-  dialog.Filter = kSaveFilter;
+  dialog.DefaultExt = pictureEnding(kSaved[0]);
+  dialog.Filter = pictureFilter(kSaved);
   dialog.ShowSave(this);
+  state_.ImageWizSaveFolder = SplitPath(dialog.FileName, PathPart::Folder);
+  const PictureKind kind = convertedKind(kSaved[dialog.FilterIndex - 1], dialog.FileName);
+  saveCrop(dialog.FileName, kind);
   SaveFileName = dialog.FileName;
-  saveKind_ = convertedKind(static_cast<PictureKind>(dialog.FilterIndex), SaveFileName);
-  state_.ImageWizSaveFolder = SplitPath(SaveFileName, PathPart::Folder);
+  saveKind_ = kind;
 }
 
-void frmImageWiz::saveCrop() {
+void frmImageWiz::saveCrop(const QString& path, PictureKind kind) {
   const cHourglass wait;
   RefreshCrop();
-  savePicture(ui_->picCropPicture->picture(), SaveFileName, saveKind_, state_.QualitiesFile);
+  savePicture(ui_->picCropPicture->picture(), path, kind, state_.QualitiesFile);
 }
 
 void frmImageWiz::btnToolbar_Reload() {
@@ -233,6 +240,7 @@ void frmImageWiz::btnToolbar_Resize() {
   ui_->vsbHeight->hide();
   ui_->hsbWidth->hide();
   ui_->picCover->hide();
+  scrollHome();
   showPicture(SourcePicture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   moveFrame({0, 0});
 }
@@ -252,27 +260,21 @@ void frmImageWiz::btnToolbar_Sizes() {
 }
 
 void frmImageWiz::LoadImage(const QString& fileName) {
-  QImage picture;
-  if (fileName.isEmpty()) {
-    picture = clipboardPicture();
-    if (picture.isNull()) {
-      dialogs_.message(this, MessageIcon::Warning, QString(), u"No image in Clipboard."_s);
-      return;
-    }
-    if (picture.width() > kLongestSide || picture.height() > kLongestSide)
-      throw Fault(FaultNumber::BadPicture,
-                  u"The image in the Clipboard has %1 x %2 pixels; a side may have %3 at most."_s
-                      .arg(picture.width())
-                      .arg(picture.height())
-                      .arg(kLongestSide));
-  } else {
-    picture = LoadPicture(fileName).image();
+  const Picture picture = fileName.isEmpty() ? Picture(clipboardPicture()) : LoadPicture(fileName);
+  if (picture.isNull()) {
+    dialogs_.message(this, MessageIcon::Warning, QString(), u"No image in Clipboard."_s);
+    return;
   }
-  const Picture measured(picture);
-  ImageW = measured.width();
-  ImageH = measured.height();
-  showPicture(picture.copy(0, 0, ImageW, ImageH).convertToFormat(QImage::Format_ARGB32));
+  ImageW = picture.width();
+  ImageH = picture.height();
   layScrollBars();
+  showPicture(picture.image());
+  showLoaded(fileName);
+  // The frame stays where it was; what it shows of the new picture is what would be saved.
+  RefreshCrop();
+}
+
+void frmImageWiz::showLoaded(const QString& fileName) {
   const QString size = u"(%1 x %2)"_s.arg(ImageW).arg(ImageH);
   setWindowTitle(titleText(fileName.isEmpty() ? u"Image Wizard - "_s + size
                                               : u"Image Wizard - [%1] - %2"_s.arg(fileName, size)));
@@ -282,14 +284,11 @@ void frmImageWiz::LoadImage(const QString& fileName) {
   ui_->lblXY->show();
   ui_->lblHint->hide();
   ui_->lblSizeHint->setVisible(!ui_->picImage->hasFrame());
-  // The frame stays where it was; what it shows of the new picture is what would be saved.
-  RefreshCrop();
 }
 
 void frmImageWiz::showPicture(const QImage& picture) {
   SourcePicture = picture;
-  ui_->picImage->setPicture(picture);
-  ui_->picImage->move(-ui_->hsbWidth->value(), -ui_->vsbHeight->value());
+  ui_->picImage->setPicture(picture, {ImageW, ImageH});
   ui_->picImage->show();
 }
 
@@ -297,25 +296,31 @@ void frmImageWiz::layScrollBars() {
   const QSize frame = ui_->picFrame->size();
   const bool wide = ImageW > frame.width();
   const bool tall = ImageH > frame.height();
-  ui_->hsbWidth->setValue(0);
-  ui_->vsbHeight->setValue(0);
+  scrollHome();
+  // Bars of a larger picture before stay as they are.
   if (!wide && !tall) return;
-  const int bars = wide && tall ? kBothBars : kOneBar;
-  const int over = wide && tall ? kBothBars : 0;
+  const bool both = wide && tall;
+  const int taken = both ? kEdgesAndBar : kEdges;
+  const int hidden = both ? kEdgesAndBar : 0;
   ui_->hsbWidth->setVisible(wide);
   ui_->vsbHeight->setVisible(tall);
-  ui_->picCover->setVisible(wide && tall);
-  ui_->hsbWidth->resize(frame.width() - bars, ui_->hsbWidth->height());
-  ui_->vsbHeight->resize(ui_->vsbHeight->width(), frame.height() - bars);
-  ui_->hsbWidth->setMaximum(qMax(0, ImageW - frame.width() + over));
-  ui_->vsbHeight->setMaximum(qMax(0, ImageH - frame.height() + over));
+  ui_->picCover->setVisible(both);
+  ui_->hsbWidth->resize(frame.width() - taken, ui_->hsbWidth->height());
+  ui_->vsbHeight->resize(ui_->vsbHeight->width(), frame.height() - taken);
+  ui_->hsbWidth->setMaximum(qMax(0, ImageW - frame.width() + hidden));
+  ui_->vsbHeight->setMaximum(qMax(0, ImageH - frame.height() + hidden));
+}
+
+void frmImageWiz::scrollHome() {
+  ui_->hsbWidth->setValue(0);
+  ui_->vsbHeight->setValue(0);
 }
 
 void frmImageWiz::RefreshCrop() {
   if (!ui_->picImage->hasFrame()) return;
   QImage crop(ui_->picImage->frame().size(), QImage::Format_ARGB32);
   crop.fill(Qt::transparent);
-  QPainter(&crop).drawImage(-ui_->txtX->text().toInt(), -ui_->txtY->text().toInt(), SourcePicture);
+  QPainter(&crop).drawImage(-ui_->txtX->place(), -ui_->txtY->place(), SourcePicture);
   ui_->picCropPicture->setPicture(crop);
 }
 
@@ -323,24 +328,19 @@ void frmImageWiz::picImage_MouseMove(bool held, QPoint pixel) {
   CropX = pixel.x();
   CropY = pixel.y();
   ui_->lblXY->setText(u"X: %1, Y: %2"_s.arg(CropX).arg(CropY));
-  if (!held) return;
+  if (!held || !ui_->picImage->hasFrame()) return;
+  const QSize frame = ui_->picImage->frame().size();
   CropX = qMax(0, CropX);
   CropY = qMax(0, CropY);
-  picImage_Click();
-}
-
-void frmImageWiz::picImage_Click() {
-  if (!ui_->picImage->hasFrame()) return;
-  const QSize frame = ui_->picImage->frame().size();
-  if (frame.width() + CropX + 2 > ImageW) CropX = ImageW - frame.width();
-  if (frame.height() + CropY + 2 > ImageH) CropY = ImageH - frame.height();
+  if (frame.width() + CropX + kSnap > ImageW) CropX = ImageW - frame.width();
+  if (frame.height() + CropY + kSnap > ImageH) CropY = ImageH - frame.height();
   moveFrame({CropX, CropY});
 }
 
 void frmImageWiz::moveFrame(QPoint place) {
   ui_->picImage->setFrame(QRect(place, ui_->picImage->frame().size()));
-  ui_->txtX->setText(QString::number(place.x()));
-  ui_->txtY->setText(QString::number(place.y()));
+  ui_->txtX->setPlace(place.x());
+  ui_->txtY->setPlace(place.y());
   RefreshCrop();
 }
 
@@ -352,9 +352,9 @@ void frmImageWiz::nudgeFrame(QPoint pixels) {
   moveFrame({std::clamp(place.x(), 0, room.x()), std::clamp(place.y(), 0, room.y())});
 }
 
-void frmImageWiz::txtXY_Enter(QLineEdit& box, int room) {
-  if (room < box.text().toInt()) box.setText(QString::number(room));
-  moveFrame({ui_->txtX->text().toInt(), ui_->txtY->text().toInt()});
+void frmImageWiz::txtXY_Enter(PlaceBox& box, int room) {
+  if (room < box.place()) box.setPlace(room);
+  moveFrame({ui_->txtX->place(), ui_->txtY->place()});
 }
 
 void frmImageWiz::scroll() {

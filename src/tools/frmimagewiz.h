@@ -10,7 +10,6 @@
 #include <memory>
 
 class QMenu;
-class QLineEdit;
 
 namespace Ui {
 class frmImageWiz;
@@ -19,6 +18,7 @@ class frmImageWiz;
 namespace quillane {
 
 class Dialogs;
+class PlaceBox;
 struct PublicState;
 
 /// Cuts a picture to the size of a theme's image slot and saves or copies it.
@@ -50,19 +50,22 @@ class frmImageWiz : public QDialog {
 
   /// Shows the picture of a file, or that of the clipboard for an empty name. Throws `Fault`.
   void LoadImage(const QString& fileName);
+  /// Shows what is known of a picture, and what may be done with it.
+  void showLoaded(const QString& fileName);
   void showPicture(const QImage& picture);
   void layScrollBars();
+  void scrollHome();
   void RefreshCrop();
-  void askWhereToSave(const QString& title, const QString& offered);
-  void saveCrop();
+  /// Asks where to, and remembers the place once the result is saved there.
+  void saveCropAs(const QString& title, const QString& offered);
+  void saveCrop(const QString& path, PictureKind kind);
 
   void picImage_MouseMove(bool held, QPoint pixel);
-  void picImage_Click();
   /// Moves the frame and shows where it is.
   void moveFrame(QPoint place);
   /// Moves the frame by so many pixels, as far as the picture goes.
   void nudgeFrame(QPoint pixels);
-  void txtXY_Enter(QLineEdit& box, int room);
+  void txtXY_Enter(PlaceBox& box, int room);
   void scroll();
 
   std::unique_ptr<Ui::frmImageWiz> ui_;

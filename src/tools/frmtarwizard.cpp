@@ -8,6 +8,7 @@
 #include "forms/dialogs.h"
 #include "forms/eventprocedure.h"
 #include "forms/formicons.h"
+#include "forms/picturefilters.h"
 #include "shell/files.h"
 #include "shell/state.h"
 #include "theme/archive.h"
@@ -16,13 +17,13 @@
 
 #include <QTemporaryDir>
 
-#include <cstdio>
-
 namespace quillane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr PictureKind kPictures[] = {PictureKind::Gif, PictureKind::Jpeg};
 
 enum Step { Introduction, FileList, Result };
 
@@ -44,6 +45,14 @@ constexpr int kPrevious = 134;
 constexpr int kPreviousDisabled = 135;
 constexpr int kBandPicture = 213;
 
+/// Writes the index of some files into a folder and returns its path. Throws `Fault`.
+QString writeIndex(const QTemporaryDir& folder, const QStringList& files) {
+  if (!folder.isValid()) throw Fault(FaultNumber::NoPermission, folder.errorString());
+  QString path = folder.filePath(u"index.txt"_s);
+  saveFile(path, themeIndex(files, IndexEnd::LineEnd));
+  return path;
+}
+
 }  // namespace
 
 frmTARWizard::frmTARWizard(QWidget* owner, PublicState& state, Dialogs& dialogs)
@@ -56,25 +65,22 @@ frmTARWizard::frmTARWizard(QWidget* owner, PublicState& state, Dialogs& dialogs)
 frmTARWizard::~frmTARWizard() = default;
 
 void frmTARWizard::connectSignals() {
-  const auto run = [this](const QString& event, void (frmTARWizard::*procedure)()) {
-    return [this, event, procedure] {
-      eventProcedure(dialogs_, this, u"in Quillane.frmTARWizard.%1 "_s.arg(event),
-                     [&] { (this->*procedure)(); });
-    };
-  };
   connect(ui_->area, &FormArea::Paint, this, [this](Bevel& bevel) {
     for (const int y : {61, 312})
       DrawEtchedLine(bevel, width(), y);
   });
   connect(ui_->btnAdd, &QPushButton::clicked, this,
-          run(u"btnAdd_Click"_s, &frmTARWizard::btnAdd_Click));
+          [this] { run("btnAdd_Click"_L1, &frmTARWizard::btnAdd_Click); });
   connect(ui_->btnNext, &QPushButton::clicked, this,
-          run(u"btnNext_Click"_s, &frmTARWizard::btnNext_Click));
+          [this] { run("btnNext_Click"_L1, &frmTARWizard::btnNext_Click); });
   connect(ui_->btnRemove, &QPushButton::clicked, this, &frmTARWizard::btnRemove_Click);
   connect(ui_->btnPrev, &QPushButton::clicked, this, &frmTARWizard::btnPrev_Click);
   connect(ui_->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
-  connect(ui_->lstFiles, &QListWidget::itemClicked, this,
-          [this] { ui_->btnRemove->setEnabled(true); });
+}
+
+void frmTARWizard::run(QLatin1String event, void (frmTARWizard::*procedure)()) {
+  eventProcedure(dialogs_, this, u"in Quillane.frmTARWizard.%1 "_s.arg(event),
+                 [this, procedure] { (this->*procedure)(); });
 }
 
 void frmTARWizard::Form_Load() {
@@ -105,9 +111,7 @@ void frmTARWizard::btnAdd_Click() {
   clsOpenSave dialog(dialogs_);
   dialog.DialogTitle = u"Select file to add"_s;
   dialog.InitDir = state_.TARWizFilesFolder;
-  dialog.Filter =
-      u"All files (*.*)|*.*|CompuServe Graphics Interchange (*.gif)|*.gif|"
-      "JPEG Files (*.jpg)|*.jpg|XML file (*.xml)|*.xml"_s;
+  dialog.Filter = u"All files (*.*)|*.*|%1|XML file (*.xml)|*.xml"_s.arg(pictureFilter(kPictures));
   dialog.ShowOpen(this);
   state_.TARWizFilesFolder = SplitPath(dialog.FileName, PathPart::Folder);
   ui_->lstFiles->addItem(dialog.FileName);
@@ -151,13 +155,11 @@ QString frmTARWizard::askForTheme() {
 }
 
 void frmTARWizard::createTheme(const QString& themePath) {
-  const QTemporaryDir folder;
   QStringList members = files();
+  const QTemporaryDir folder;
   if (ui_->chkIndexFile->isChecked()) {
     ui_->txtInfo->setPlainText(u"Creating index.txt file."_s);
-    const QString index = folder.filePath(u"index.txt"_s);
-    saveFile(index, themeIndex(members, IndexEnd::LineEnd));
-    members.prepend(index);
+    members.prepend(writeIndex(folder, members));
   }
   log(u"Creating file list."_s);
   const cHourglass wait;
@@ -165,8 +167,7 @@ void frmTARWizard::createTheme(const QString& themePath) {
   try {
     packArchive(themePath, members);
   } catch (const Fault& fault) {
-    // No box, by design; whoever started the program in a terminal is told.
-    std::fprintf(stderr, "quillane: %s\n", fault.what());
+    tellTerminal(fault);
   }
   log(u"Theme - TAR archive successfuly created."_s);
 }

@@ -26,6 +26,8 @@ class frmTARWizard : public QDialog {
   ~frmTARWizard() override;
 
  private:
+  /// Runs the procedure of an event; its fault becomes a message.
+  void run(QLatin1String event, void (frmTARWizard::*procedure)());
   void connectSignals();
   void Form_Load();
   void btnAdd_Click();

@@ -51,14 +51,15 @@ struct Row {
 
 constexpr Row kRows[] = {
     {"btnBrowse btnHome btnRefresh btnNew btnViewXML mnuFileItem_1 mnuFileItem_10 mnuEditItem_6 "
-     "mnuEditItem_7 mnuViewItem_1 mnuViewItem_3 mnuNaviItem_4 mnuNaviItem_5 mnuHelpItem_1 "
+     "mnuEditItem_7 mnuToolsItem_5 mnuViewItem_1 mnuViewItem_3 mnuNaviItem_4 mnuNaviItem_5 "
+     "mnuHelpItem_1 "
      "mnuHelpItem_5 mnuHelpItemInternet_1 mnuHelpItemInternet_2",
      "1111111111"},
     {"btnEdit btnExport btnClipboardCopy btnProperties", "011 0 0 0 0 1 0 0"},
     {"btnPrev btnNext mnuNaviItem_1 mnuNaviItem_2", "011 0 0 0 0 1 0 0"},
     {"btnCopy btnMove btnDelete", "011 1 1 0 1 1 1 0"},
     {"btnIRSend", "011 0 0 0 1 1 0 0"},
-    {"mnuFileItem_2 mnuFileItem_3 mnuFileItem_8 mnuEditItem_1", "011 0 0 0 0 0 0 0"},
+    {"mnuFileItem_2 mnuFileItem_3 mnuFileItem_8 mnuEditItem_1 mnuToolsItem_2", "011 0 0 0 0 0 0 0"},
     {"mnuFileItem_5", "011 1 0 0 0 0 0 0"},
     {"mnuFileItem_6 mnuEditItem_3 mnuEditItem_4", "011 1 0 1 1 0 1 0"},
     {"mnuToolsItem_1", "011 0 0 1 1 0 1 0"},
@@ -85,6 +86,14 @@ TEST_F(Commands, FollowTheSelection) {
             << name.toStdString() << ": " << kColumns[column].what;
       }
     }
+  }
+}
+
+TEST_F(Commands, OfferTheImageWizardWherePicturesCanBeWritten) {
+  for (const bool present : {false, true}) {
+    state.IViewPresent = present;
+    open();
+    EXPECT_EQ(control<QAction>("mnuToolsItem_4").isEnabled(), present);
   }
 }
 

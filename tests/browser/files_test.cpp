@@ -174,6 +174,19 @@ TEST_F(Files, StaySelectedWhereNothingWasMoved) {
   EXPECT_EQ(list().selectedItems(), QList<int>{1});
 }
 
+TEST_F(Files, ForgetKeysThatAreLetGoElsewhere) {
+  addThemes("a");
+  openActive(0);
+  QTest::keyPress(&list(), Qt::Key_Shift);
+  QTest::keyPress(&list(), Qt::Key_Control, Qt::ShiftModifier);
+  EXPECT_TRUE(state.ShiftDown && state.CtrlDown);
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_FALSE(state.ShiftDown || state.CtrlDown);
+}
+
 TEST_F(Files, GoOnWhenOthersAreTakenMeanwhile) {
   addThemes("abcde");
   openActive(4);

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browser/panemenus.h"
 #include "browserfixture.h"
+#include "forms/imagebox.h"
 #include "preview/screens.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
@@ -186,6 +188,28 @@ TEST_F(Panes, OpenMorePreviewsOverTheWindow) {
   EXPECT_TRUE(enabled("btnPreviewAll"));
   select(1);
   EXPECT_FALSE(enabled("btnPreviewAll")) << "the screens of the theme before are still in view";
+}
+
+TEST_F(Panes, AreCaptured) {
+  addTheme("a.thm", "<Background Color=\"0x112233\"/>");
+  addTheme("b.thm", "<Background Color=\"0x112233\"/>", true);
+  open();
+  for (const auto& [theme, panes, menu] : {std::tuple(0, 13, "mnuPopup"), {1, 6, "mnuPopup2"}}) {
+    select(theme);
+    trigger("mnuToolsItem_2");
+    auto& wizard = control<QDialog>("frmCaptureWiz");
+    const QList<QAction*> items = controlOf<QMenu>(wizard, menu).actions();
+    ASSERT_EQ(items.size(), panes);
+    for (int pane = 0; pane < panes; ++pane) {
+      items[pane]->trigger();
+      const char* name =
+          theme == 0 ? paneMenus2()[std::size_t(pane)].pane : paneMenus3G()[std::size_t(pane)].pane;
+      EXPECT_EQ(controlOf<ImageBox>(wizard, "picCapture").picture(),
+                control<PictureBox>(name).surface().image());
+    }
+  }
+  browser->close();
+  EXPECT_FALSE(control<QDialog>("frmCaptureWiz").isVisible());
 }
 
 }  // namespace

@@ -97,6 +97,7 @@ TEST_F(Editor, BeginsANewThemeWithDefaults) {
   settings.write(setting::ETTModifiedBy, "Ben");
   for (const Generation which : kBoth) {
     generation = which;
+    state.IViewPresent = which == Generation::ThreeG;
     // Whatever the last edit left.
     engine().setColor(0, "112233");
     engine().setImage(0, "/old.gif");
@@ -114,7 +115,7 @@ TEST_F(Editor, BeginsANewThemeWithDefaults) {
                                        {"btnImport", true},
                                        {"btnPaste", true},
                                        {"btnSave_0", true},
-                                       {"btnImageWizard", false}})
+                                       {"btnImageWizard", state.IViewPresent}})
       EXPECT_EQ(enabled(button), isOn) << button;
     EXPECT_FALSE(locked("txtThemeName"));
     EXPECT_FALSE(locked("txtThemeAuthor"));

@@ -147,6 +147,12 @@ TEST_F(Forms, EventProcedureShowsAFaultAndPassesACancelOver) {
   eventProcedure(dialogs, nullptr, tag, [] { throw Fault(FaultNumber::DialogCancelled, "No."); });
 }
 
+TEST(Dialogs, TellTheEndingOfAFilter) {
+  EXPECT_EQ(suffixOf("JPEG Files (*.jpg)"), "jpg");
+  EXPECT_EQ(suffixOf("Pictures (*.jpg *.jpeg)"), "");
+  EXPECT_EQ(suffixOf("All files (*.*)"), "");
+}
+
 }  // namespace
 
 }  // namespace quillane

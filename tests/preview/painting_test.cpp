@@ -87,7 +87,7 @@ TEST(PaintingTest, BordersKeepNoneOneOrAllOfTheMargin) {
          {std::pair{Generation::Two, QSize(101, 80)}, {Generation::ThreeG, QSize(128, 160)}}) {
       Surface surface(generation == Generation::Two ? Surface::kSize2 : Surface::kSize3G);
       surface.image().setPixel(5, 5, 0xFF0000);
-      const QImage framed = framedScreen(surface, generation, border);
+      const QImage framed = framedScreen(surface.image(), generation, border);
       EXPECT_EQ(framed.size(), border == Border::Default ? surface.image().size()
                                                          : size.grownBy(QMargins() + margin));
       EXPECT_EQ(boundsOf(framed, 0xFFFF0000), QRect(margin, margin, 1, 1));

@@ -108,7 +108,20 @@ TEST_F(Converter, ObeysTheQualities) {
   EXPECT_EQ(size(PictureKind::Jpeg, "[JPEG]\r\nSave Quality=0\r\n"), jpeg) << "out of range";
   const auto png = size(PictureKind::Png, "[PNG]\r\nCompressionLevel=x\r\n");
   EXPECT_GT(size(PictureKind::Png, "[PNG]\r\nCompressionLevel=0\r\n"), 3 * 128 * 127);
-  EXPECT_LT(png, 3 * 128 * 127) << "6, the standard";
+  EXPECT_EQ(size(PictureKind::Png, "[PNG]\r\nCompressionLevel=6\r\n"), png) << "the standard";
+  EXPECT_NE(size(PictureKind::Png, "[PNG]\r\nCompressionLevel=1\r\n"), png);
+}
+
+TEST_F(Converter, LetsTheEndingDecideWhereOneConverterServes) {
+  const std::tuple<PictureKind, const char*, PictureKind> cases[] = {
+      {PictureKind::Jpeg, "a.PNG", PictureKind::Png},
+      {PictureKind::Jpeg, "a.jpeg", PictureKind::Jpeg},
+      {PictureKind::Png, "a.xyz", PictureKind::Png},
+      {PictureKind::Png, "a.gif", PictureKind::Gif},
+      {PictureKind::Gif, "a.jpg", PictureKind::Gif},
+      {PictureKind::Bmp, "a.png", PictureKind::Bmp}};
+  for (const auto& [offered, name, kind] : cases)
+    EXPECT_EQ(convertedKind(offered, name), kind) << name;
 }
 
 TEST_F(Converter, LeavesTheOldFileWhenItFails) {
