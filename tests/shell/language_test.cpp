@@ -2,12 +2,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/language.h"
 
+#include "preview/faces.h"
+#include "preview/pipelist.h"
+#include "shell/ini.h"
 #include "shell/settings.h"
 #include "shell/state.h"
 #include "support/stillworld.h"
 #include "support/tempfolder.h"
+#include "theme/codepage.h"
 
+#include <QDir>
 #include <QFile>
+#include <QStringDecoder>
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <vector>
 
 namespace quillane {
 
@@ -21,11 +31,15 @@ class Language : public TempFolder {
   FaultLog log;
 };
 
+QByteArray shippedFile(const QString& folder, const QString& name) {
+  QFile file(LANGUAGE_FOLDER "/" + folder + '/' + name);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return file.readAll();
+}
+
 /// The shipped file of a generation with "!" behind each value.
 QByteArray markedFile(const QString& folder) {
-  QFile file(LANGUAGE_FOLDER "/" + folder + "/english.lng");
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-  return file.readAll().replace("\r\n", "!\r\n").replace("]!", "]");
+  return shippedFile(folder, "english.lng").replace("\r\n", "!\r\n").replace("]!", "]");
 }
 
 /// Every text of an engine, as the shipped file has it when nothing else is said.
@@ -87,6 +101,115 @@ TEST_F(Language, ReportsASettingThatIsNoNumberAndGoesOn) {
   EXPECT_EQ(engine.NotesText, "Do not forget|this...");
   ASSERT_EQ(log.texts().size(), 1);
   EXPECT_TRUE(log.texts().first().contains("BatteryLevel"));
+}
+
+/// Where a text of the screens stands: the letters before each label that tell how its row looks,
+/// and the points, weight and width in pixels that its labels have.
+struct Row {
+  const char* section;
+  const char* key;
+  int flags;
+  std::vector<int> points;  ///< One for each label; the last one serves the rest.
+  bool bold;
+  int width;
+};
+
+const std::vector<Row> kRows2{
+    {"Desktop", "Titles", 0, {8}, true, 99},      {"Menu", "Titles", 0, {7, 8, 9, 8}, true, 99},
+    {"Menu", "MenuListS", 3, {7}, false, 93},     {"Menu", "MenuListM", 3, {8}, true, 93},
+    {"Menu", "MenuListL", 3, {9}, true, 93},      {"Menu", "Prompt", 0, {8}, true, 100},
+    {"PopupMenu", "Titles", 0, {8}, true, 91},    {"PopupMenu", "MenuList1", 3, {8}, true, 82},
+    {"PopupMenu", "MenuList2", 3, {8}, true, 82}, {"PopupMenu", "Prompt", 0, {8}, false, 86},
+    {"PopupWindow", "Text", 0, {8}, true, 91},    {"Notes", "Note", 0, {8}, false, 69}};
+
+const std::vector<Row> kRows3G{{"Standby", "SoftkeysText", 0, {8}, true, 50},
+                               {"Desktop", "Titles", 0, {8}, true, 125},
+                               {"Desktop", "SoftkeysText", 0, {8}, true, 58},
+                               {"Menu", "Titles", 0, {8}, true, 125},
+                               {"Menu", "MenuList1", 2, {8}, true, 118},
+                               {"Menu", "MenuList2", 2, {8}, true, 118},
+                               {"Menu", "SoftkeysText", 0, {8}, true, 58},
+                               {"PopupMenu", "Titles", 0, {8}, true, 117},
+                               {"PopupMenu", "MenuList1", 2, {8}, true, 109},
+                               {"PopupMenu", "MenuList2", 2, {8}, true, 109},
+                               {"PopupMenu", "SoftkeysText", 0, {8}, true, 58},
+                               {"Softkeys", "Titles", 0, {8}, true, 125},
+                               {"Softkeys", "MenuList1", 0, {8}, true, 106},
+                               {"Softkeys", "MenuList2", 0, {8}, true, 106},
+                               {"Softkeys", "SoftkeysText", 0, {8}, true, 58},
+                               {"Calendar", "DaysOfWeek", 0, {8}, false, 13},
+                               {"Calendar", "SoftkeysText", 0, {8}, true, 58},
+                               {"Notes", "Note", 0, {8}, false, 110},
+                               {"WAPBrowser", "Title", 0, {8}, true, 125},
+                               {"WAPBrowser", "SoftkeysText", 0, {8}, true, 58},
+                               {"ProgressWindow", "Text", 0, {8}, true, 106},
+                               {"AcceptWindow", "Text", 0, {8}, true, 115},
+                               {"AcceptWindow", "SoftkeysText", 0, {8}, true, 58}};
+
+QString shippedValue(const QString& ini, const char* section, const char* key) {
+  QString value = iniValue(ini, section, key, "");
+  EXPECT_FALSE(value.isEmpty()) << section << ' ' << key;
+  EXPECT_LT(value.size(), 254) << section << ' ' << key;  // Where longer ones are cut.
+  return value;
+}
+
+bool isControl(QChar letter) {
+  return letter.category() == QChar::Other_Control && letter != u'\r' && letter != u'\n';
+}
+
+void expectWindowsText(const QByteArray& bytes) {
+  EXPECT_TRUE(bytes.endsWith("\r\n"));
+  EXPECT_EQ(bytes.count('\n'), bytes.count("\r\n"));
+  EXPECT_EQ(bytes.count('\r'), bytes.count("\r\n"));
+  const QString text = fromCodePage(bytes);
+  EXPECT_TRUE(std::none_of(text.begin(), text.end(), isControl));
+  QStringDecoder utf8(QStringDecoder::Utf8);
+  const QString misread = utf8(bytes);
+  EXPECT_TRUE(misread == text || utf8.hasError()) << "in UTF-8, not in the code page";
+}
+
+/// Compares the labels of a row with the default ones, which a few of them may be wider than.
+void expectSameShape(const Row& row, const QString& face, const QString& value,
+                     const QString& standard) {
+  const QStringList labels = splitList(value);
+  const QStringList standards = splitList(standard);
+  ASSERT_EQ(labels.size(), standards.size()) << row.section << ' ' << row.key;
+  for (int i = 0; i < labels.size(); ++i) {
+    EXPECT_EQ(labels[i].left(row.flags), standards[i].left(row.flags)) << qPrintable(labels[i]);
+    const int points = row.points[std::min<std::size_t>(i, row.points.size() - 1)];
+    const auto width = [&](const QString& label) {
+      SizedFace& sized = Faces::shared().face(face, points, row.bold);
+      return sized.widthOf(label.mid(row.flags).replace("&&", "&"));
+    };
+    EXPECT_GT(width(labels[i]), 0) << row.section << ' ' << row.key << ' ' << i;
+    EXPECT_LE(width(labels[i]), std::max(row.width, width(standards[i]))) << qPrintable(labels[i]);
+  }
+}
+
+void expectLanguages(const QString& folder, const QString& face, const std::vector<Row>& rows) {
+  const QString standard = fromCodePage(shippedFile(folder, "english.lng"));
+  ASSERT_EQ(standard.count('='), rows.size() + 3) << "a text without a row; FileInfo has three";
+  const QStringList names =
+      QDir(LANGUAGE_FOLDER "/" + folder).entryList({"*.ini"}, QDir::Files, QDir::Name);
+  EXPECT_THAT(names,
+              testing::ElementsAre("dutch.ini", "english.ini", "french.ini", "german.ini",
+                                   "italian.ini", "portuguese.ini", "spanish.ini", "swedish.ini"));
+  for (const QString& name : names) {
+    SCOPED_TRACE(qPrintable(folder + '/' + name));
+    const QByteArray bytes = shippedFile(folder, name);
+    expectWindowsText(bytes);
+    const QString ini = fromCodePage(bytes);
+    for (const char* key : {"Language", "Version", "Author", "Comment"})
+      shippedValue(ini, "FileInfo", key);
+    for (const Row& row : rows)
+      expectSameShape(row, face, shippedValue(ini, row.section, row.key),
+                      iniValue(standard, row.section, row.key, ""));
+  }
+}
+
+TEST(LanguageFiles, HaveEveryTextAndFitTheirRows) {
+  expectLanguages("2", "Tahoma", kRows2);
+  expectLanguages("3G", "MS Sans Serif", kRows3G);
 }
 
 }  // namespace
