@@ -8,12 +8,16 @@
 
 namespace quillane {
 
-void paintPixels(QWidget& widget, const QImage& pixels, QPoint corner) {
+qreal pixelSize(const QWidget& widget) {
   const qreal ratio = widget.devicePixelRatioF();
-  const int whole = qMax(1, qFloor(ratio));
+  return qMax(1, qFloor(ratio)) / ratio;
+}
+
+void paintPixels(QWidget& widget, const QImage& pixels, QPointF corner) {
+  const qreal ratio = widget.devicePixelRatioF();
   // A place between two pixels of the screen would lose a row or a column.
-  const QPointF place((QPointF(corner) * ratio).toPoint() / ratio);
-  QPainter(&widget).drawImage(QRectF(place, QSizeF(pixels.size() * whole) / ratio), pixels);
+  const QPointF place((corner * ratio).toPoint() / ratio);
+  QPainter(&widget).drawImage(QRectF(place, QSizeF(pixels.size()) * pixelSize(widget)), pixels);
 }
 
 }  // namespace quillane

@@ -9,8 +9,12 @@ class QWidget;
 
 namespace quillane {
 
+/// How large a pixel of a picture is on a widget, in the widget's own pixels: as many whole pixels
+/// of the screen as go into one of them, so 1 or a little less.
+qreal pixelSize(const QWidget& widget);
+
 /// Paints a picture on a widget, from its paint event, with the upper left corner at `corner`.
-/// Each pixel is as many whole pixels of the screen wide and high as go into one of the widget.
-void paintPixels(QWidget& widget, const QImage& pixels, QPoint corner);
+/// Each pixel is `pixelSize` wide and high.
+void paintPixels(QWidget& widget, const QImage& pixels, QPointF corner);
 
 }  // namespace quillane

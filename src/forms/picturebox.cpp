@@ -35,7 +35,10 @@ void PictureBox::Cls() {
 
 void PictureBox::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
-  paintPixels(*this, surface().image(), {kBorder, kBorder});
+  // On a dense screen the picture may be smaller than the box; it stands in the middle.
+  const QSizeF shown = QSizeF(surface().image().size()) * pixelSize(*this);
+  const QSizeF spare = (QSizeF(size()) - shown) / 2;
+  paintPixels(*this, surface().image(), {spare.width(), spare.height()});
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {

@@ -30,7 +30,7 @@ CropCanvas::CropCanvas(QWidget* parent) : QWidget(parent) {
 
 void CropCanvas::setPicture(const QImage& picture, QSize area) {
   picture_ = picture;
-  resize(area);
+  resize((QSizeF(area) * pixelSize(*this)).toSize());
   update();
 }
 
@@ -44,6 +44,7 @@ void CropCanvas::paintEvent(QPaintEvent*) {
   if (!hasFrame()) return;
   // Two colours in turn show on any picture.
   QPainter painter(this);
+  painter.scale(pixelSize(*this), pixelSize(*this));
   const QRect line = frame_.adjusted(0, 0, -1, -1);
   painter.setPen(Qt::white);
   painter.drawRect(line);
@@ -52,7 +53,8 @@ void CropCanvas::paintEvent(QPaintEvent*) {
 }
 
 void CropCanvas::tellMove(const QMouseEvent& event) {
-  Q_EMIT MouseMove(event.buttons().testFlag(Qt::LeftButton), event.position().toPoint());
+  Q_EMIT MouseMove(event.buttons().testFlag(Qt::LeftButton),
+                   (event.position() / pixelSize(*this)).toPoint());
 }
 
 void CropCanvas::mousePressEvent(QMouseEvent* event) {
