@@ -8,8 +8,6 @@
 #include <QMenu>
 #include <QToolButton>
 
-#include <algorithm>
-
 namespace quillane {
 
 using namespace Qt::StringLiterals;
@@ -41,15 +39,6 @@ constexpr MenuRule kMenuRules[] = {
     {"mnuToolsItem_1", true, false, true}, {"mnuToolsItem_2", true, false, false},
 };
 
-// The form behind it is still to come.
-constexpr const char* kAwaited[] = {"mnuEditItem_9"};
-
-bool isAwaited(const char* item) {
-  return std::any_of(std::begin(kAwaited), std::end(kAwaited), [&](const char* awaited) {
-    return QLatin1String(awaited) == QLatin1String(item);
-  });
-}
-
 bool isOn(const MenuRule& rule, int selectedCount, bool themeFailed) {
   if (selectedCount > 1) return rule.several;
   return selectedCount == 1 && (themeFailed ? rule.oneFailed : rule.one);
@@ -64,14 +53,9 @@ void dressButtons(QWidget& browser) {
 
 void enableMenuItems(QWidget& browser, int selectedCount, bool themeFailed) {
   for (const MenuRule& rule : kMenuRules) {
-    const bool on = !isAwaited(rule.item) && isOn(rule, selectedCount, themeFailed);
+    const bool on = isOn(rule, selectedCount, themeFailed);
     browser.findChild<QAction*>(QLatin1String(rule.item))->setEnabled(on);
   }
-}
-
-void disableAwaited(QWidget& browser) {
-  for (const char* awaited : kAwaited)
-    browser.findChild<QAction*>(QLatin1String(awaited))->setEnabled(false);
 }
 
 }  // namespace quillane

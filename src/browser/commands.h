@@ -13,7 +13,4 @@ void dressButtons(QWidget& browser);
 /// only one could not be shown.
 void enableMenuItems(QWidget& browser, int selectedCount, bool themeFailed);
 
-/// Disables every menu item whose command cannot be run in this version, whatever is selected.
-void disableAwaited(QWidget& browser);
-
 }  // namespace quillane

@@ -138,6 +138,7 @@ class frmBrowser : public QMainWindow {
   void btnNew_Click();
   void btnEdit_Click();
   void btnPreviewAll_Click();
+  void mnuEditItem_Preferences();
   void mnuToolsItem_Capture();
   void mnuToolsItem_ImageWizard();
   void mnuToolsItem_TarWizard();
@@ -145,7 +146,7 @@ class frmBrowser : public QMainWindow {
   void showCaptureWizard();
   /// What a pane of the generation on show shows, by its `CapturePane`.
   QImage panePicture(int pane);
-  bool offersPaneMenu() const;
+  bool isThemeOnShow() const;
   void showPaneMenu2(std::size_t pane, QPoint place);
   void showPaneMenu3G(std::size_t pane, QPoint place);
   void makePaneMenus();

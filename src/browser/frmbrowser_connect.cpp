@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Which event runs which procedure.
-#include "browser/commands.h"
 #include "browser/frmbrowser.h"
 #include "browser/panemenus.h"
 #include "forms/eventprocedure.h"
@@ -54,7 +53,6 @@ void frmBrowser::connectSignals() {
   connectCommands();
   connectPanes();
   connectMenus();
-  disableAwaited(*this);
 }
 
 void frmBrowser::connectCommands() {
@@ -84,6 +82,7 @@ void frmBrowser::connectCommands() {
       {"StartRename"_L1, &frmBrowser::StartRename, nullptr, ui_->mnuFileItem_5},
       {"mnuEditItem_Click"_L1, &frmBrowser::mnuEditItem_SelectAll, nullptr, ui_->mnuEditItem_6},
       {"mnuEditItem_Click"_L1, &frmBrowser::mnuEditItem_Invert, nullptr, ui_->mnuEditItem_7},
+      {"mnuEditItem_Click"_L1, &frmBrowser::mnuEditItem_Preferences, nullptr, ui_->mnuEditItem_9},
       {"btnViewXML_Click"_L1, &frmBrowser::btnViewXML_Click, ui_->btnViewXML, nullptr},
       {"mnuViewItem_Click"_L1, &frmBrowser::mnuViewItem_SourceXml, nullptr, ui_->mnuViewItem_1},
       {"btnIRSend_Click"_L1, &frmBrowser::btnIRSend_Click, ui_->btnIRSend, ui_->mnuToolsItem_1},

@@ -10,16 +10,19 @@
 #include "forms/paintscreen.h"
 #include "shell/dynamics.h"
 #include "shell/files.h"
+#include "shell/modassociate.h"
 #include "shell/state.h"
 #include "theme/archive.h"
 #include "theme/load.h"
 #include "tools/frmcapturewiz.h"
 #include "tools/frmimagewiz.h"
+#include "tools/frmpreferences.h"
 #include "tools/frmpreviewall.h"
 #include "tools/frmtarwizard.h"
 #include "ui_frmbrowser.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMenu>
 
@@ -122,6 +125,14 @@ void frmBrowser::btnEdit_Click() {
   editTheme(this, {state_, settings_, dialogs_, world_});
 }
 
+void frmBrowser::mnuEditItem_Preferences() {
+  const FileAssociation association{
+      [] { CreateFileAssociation(QCoreApplication::applicationFilePath()); },
+      RemoveFileAssociation};
+  showPreferences(this, state_, settings_, dialogs_, world_, association);
+  if (isThemeOnShow()) LoadTheme();
+}
+
 void frmBrowser::mnuToolsItem_Capture() {
   state_.CapturePane = 1;
   showCaptureWizard();
@@ -160,12 +171,12 @@ void frmBrowser::makePaneMenus() {
             [this, &item] { run("mnuPopup3Item_Click"_L1, [&] { mnuPopup3Item_Extract(item); }); });
 }
 
-bool frmBrowser::offersPaneMenu() const {
+bool frmBrowser::isThemeOnShow() const {
   return SelectedCount == 1 && !ThemeFailed;
 }
 
 void frmBrowser::showPaneMenu2(std::size_t pane, QPoint place) {
-  if (!offersPaneMenu()) return;
+  if (!isThemeOnShow()) return;
   const PaneMenu2& menu = paneMenus2()[pane];
   state_.CapturePane = static_cast<std::uint8_t>(pane + 1);
   QAction* extract = mnuPopup_->actions().at(1);
@@ -175,7 +186,7 @@ void frmBrowser::showPaneMenu2(std::size_t pane, QPoint place) {
 }
 
 void frmBrowser::showPaneMenu3G(std::size_t pane, QPoint place) {
-  if (!offersPaneMenu()) return;
+  if (!isThemeOnShow()) return;
   state_.CapturePane = static_cast<std::uint8_t>(pane + 1);
   for (std::size_t row = 0; row < extractItems3G().size(); ++row) {
     const gen3g::Image image = extractItems3G()[row].image;

@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/ini.h"
 
+#include "shell/files.h"
 #include "theme/codepage.h"
+#include "theme/files.h"
 
+#include <QDir>
 #include <QFile>
+#include <QStringList>
 
 #include <algorithm>
 #include <iterator>
@@ -43,6 +47,12 @@ bool isSection(const QString& line, const QString& section) {
   return line.mid(1, line.indexOf(u']') - 1).trimmed().compare(section, Qt::CaseInsensitive) == 0;
 }
 
+bool isEntry(const QString& line, const QString& key) {
+  const qsizetype equals = line.indexOf(u'=');
+  return equals >= 0 && !line.startsWith(u';') &&
+         stripped(line.left(equals)).compare(key, Qt::CaseInsensitive) == 0;
+}
+
 std::optional<QString> findValue(const QString& text, const QString& section, const QString& key) {
   bool inside = false;
   for (const QString& raw : text.split(u'\n')) {
@@ -52,12 +62,33 @@ std::optional<QString> findValue(const QString& text, const QString& section, co
       inside = isSection(line, section);
       continue;
     }
-    const qsizetype equals = line.indexOf(u'=');
-    if (!inside || equals < 0 || line.startsWith(u';')) continue;
-    if (stripped(line.left(equals)).compare(key, Qt::CaseInsensitive) == 0)
-      return unquoted(stripped(line.mid(equals + 1)));
+    if (inside && isEntry(line, key)) return unquoted(stripped(line.mid(line.indexOf(u'=') + 1)));
   }
   return std::nullopt;
+}
+
+/// The lines with an entry in place of the one of its name, or behind the last entry of its
+/// section.
+QStringList withEntry(QStringList lines, const QString& section, const QString& key,
+                      const QString& entry) {
+  bool inside = false;
+  qsizetype place = lines.size();
+  for (qsizetype i = 0; i < lines.size(); ++i) {
+    const QString line = stripped(lines[i]);
+    if (line.startsWith(u'[')) {
+      if (inside) break;
+      inside = isSection(line, section);
+    }
+    if (!inside) continue;
+    if (isEntry(line, key)) {
+      lines[i] = entry;
+      return lines;
+    }
+    if (!line.isEmpty()) place = i + 1;
+  }
+  if (!inside && place == lines.size()) lines << u"[%1]\r"_s.arg(section);
+  lines.insert(inside ? place : lines.size(), entry);
+  return lines;
 }
 
 }  // namespace
@@ -73,6 +104,21 @@ QString ReadIni(const QString& section, const QString& key, const QString& stand
   QString text;
   if (!file.isEmpty() && ini.open(QIODevice::ReadOnly)) text = fromCodePage(ini.readAll());
   return iniValue(text, section, key, standard);
+}
+
+void WriteIni(const QString& section, const QString& key, const QString& value,
+              const QString& file) {
+  QStringList lines;
+  if (FileExists(file)) lines = fromCodePage(readFile(file)).split(u'\n');
+  // What stands behind the last line end is a line only when it is more than nothing.
+  if (!lines.isEmpty() && lines.last().isEmpty())
+    lines.removeLast();
+  else if (!lines.isEmpty())
+    lines.last() += u'\r';
+  const QString folder = SplitPath(file, PathPart::Folder);
+  if (!QDir().mkpath(folder)) throw noPermission("make"_L1, folder);
+  lines = withEntry(lines, section, key, key + u'=' + value + u'\r');
+  saveFile(file, toCodePage(QString(lines.join(u'\n') + u'\n')));
 }
 
 }  // namespace quillane

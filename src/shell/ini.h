@@ -12,7 +12,13 @@ namespace quillane {
 QString ReadIni(const QString& section, const QString& key, const QString& standard,
                 const QString& file);
 
-/// The same in the text of an INI file that is read already, for whoever asks for many values.
+/// Writes a value where `ReadIni` finds it; every other line of the file stays as it is. The file
+/// and its folder are made where missing. Throws `Fault`; the former file is then still there.
+void WriteIni(const QString& section, const QString& key, const QString& value,
+              const QString& file);
+
+/// What `ReadIni` gives, from the text of an INI file that is read already, for whoever asks for
+/// many values.
 QString iniValue(const QString& text, const QString& section, const QString& key,
                  const QString& standard);
 

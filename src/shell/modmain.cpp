@@ -63,7 +63,7 @@ constexpr FolderSetting kFolders[] = {
 QString standardFolder(Default standard, const PublicState& state, const QString& programFolder) {
   switch (standard) {
     case Default::MyThemes:
-      return programFolder + "My Themes/"_L1;
+      return state.MyThemesFolder;
     case Default::ThemesFolder:
       return state.ThemesFolder;
     case Default::ProgramFolder:
@@ -73,6 +73,7 @@ QString standardFolder(Default standard, const PublicState& state, const QString
 }
 
 void readFolders(PublicState& state, const SettingsStore& settings, const QString& programFolder) {
+  state.MyThemesFolder = programFolder + "My Themes/"_L1;
   for (const FolderSetting& row : kFolders) {
     QString folder = settings.read(row.setting);
     if (folder.isEmpty()) folder = standardFolder(row.standard, state, programFolder);

@@ -103,8 +103,8 @@ void IniSettings::flush() {
   settings_->sync();
   if (settings_->status() != QSettings::AccessError) return;
   throw Fault(FaultNumber::NoPermission,
-              u"The settings file \"%1\" cannot be written, so the folders in use are "
-              "not kept."_s.arg(settings_->fileName()));
+              u"The settings file \"%1\" cannot be written, so the settings and "
+              "the folders in use are not kept."_s.arg(settings_->fileName()));
 }
 
 int numberSetting(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {

@@ -58,6 +58,7 @@ inline constexpr Setting DesktopIcon2{"Vistrel2Dynamics", "DesktopIcon", "5"};
 inline constexpr Setting LanguageFile3G{"Vistrel3GDynamics", "VistrelINIFile", "english.lng"};
 inline constexpr Setting DesktopIcon3G{"Vistrel3GDynamics", "DesktopIcon", "5"};
 inline constexpr Setting DateFormat3G{"Vistrel3GDynamics", "DateFormat", "dd.mmm.yy"};
+inline constexpr Setting DateFormatIndex3G{"Vistrel3GDynamics", "DateFormatIndex", "0"};
 }  // namespace setting
 
 /// Where the user settings live: texts by section and key.

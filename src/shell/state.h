@@ -19,6 +19,7 @@ namespace quillane {
 struct PublicState {
   QString AppTempFolder;       ///< Work area of the theme on show.
   QString ThemesFolder;        ///< Where new themes are saved.
+  QString MyThemesFolder;      ///< Its default, in the program's folder.
   QString BrowseFolder;        ///< The folder that the browser shows.
   QString CopyMoveFolder;      ///< Last target of copy and move.
   QString ImageFolder;         ///< Last folder of the editors' images.

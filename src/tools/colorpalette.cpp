@@ -5,16 +5,18 @@
 #include "tools/palettemodel.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 namespace quillane {
 
 namespace {
 
-/// The side of the whole grid without the line that closes it below and at the right.
+/// The usual side of the whole grid, without the line that closes it below and at the right.
 constexpr int kSide = 288;
 constexpr int kBorder = 2;
 
@@ -57,7 +59,6 @@ ColorPalette::ColorPalette(QWidget* parent) : QTableView(parent), model_(new Pal
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFrameStyle(QFrame::WinPanel | QFrame::Sunken);
   setLineWidth(kBorder);
-  setFixedSize(QSize(kSide + 1, kSide + 1) + QSize(kBorder, kBorder) * 2);
   setCursor(Qt::CrossCursor);
   viewport()->setBackgroundRole(QPalette::Window);
   for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
@@ -65,6 +66,13 @@ ColorPalette::ColorPalette(QWidget* parent) : QTableView(parent), model_(new Pal
     header->setMinimumSectionSize(1);
     header->setSectionResizeMode(QHeaderView::Fixed);
   }
+  setSide(kSide);
+}
+
+void ColorPalette::setSide(int side) {
+  side_ = side;
+  setFixedSize(QSize(side + 1, side + 1) + QSize(kBorder, kBorder) * 2);
+  fitFields();
 }
 
 void ColorPalette::loadBuiltIn() {
@@ -77,9 +85,13 @@ void ColorPalette::load(const QString& path) {
   fitFields();
 }
 
+void ColorPalette::save(const QString& path) const {
+  savePalette(path, model_->colors());
+}
+
 void ColorPalette::fitFields() {
   for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
-    header->setDefaultSectionSize(kSide / model_->columnCount());
+    header->setDefaultSectionSize(side_ / model_->columnCount());
 }
 
 // The current field does not count: the focus alone makes one.
@@ -91,14 +103,35 @@ ColorValue ColorPalette::colorAt(int index) const {
   return model_->colors().at(static_cast<std::size_t>(index));
 }
 
+void ColorPalette::setColorAt(int index, ColorValue color) {
+  model_->setColor(model_->fieldAt(index), color);
+}
+
 void ColorPalette::select(int index) {
   setCurrentIndex(model_->fieldAt(index));
 }
 
-void ColorPalette::pick(const QModelIndex& field) {
-  if (model_->placeOf(field) < 0) return;
+bool ColorPalette::pick(const QModelIndex& field) {
+  if (model_->placeOf(field) < 0) return false;
   setCurrentIndex(field);
   Q_EMIT Click();
+  return true;
+}
+
+bool ColorPalette::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || !tip_) return QTableView::viewportEvent(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const QModelIndex field = indexAt(help->pos());
+  const int place = model_->placeOf(field);
+  QToolTip::showText(help->globalPos(), place < 0 ? QString() : tip_(colorAt(place)), viewport(),
+                     visualRect(field));
+  return true;
+}
+
+// The second press of two; the release of the first has picked the field.
+void ColorPalette::mouseDoubleClickEvent(QMouseEvent* event) {
+  const QModelIndex field = indexAt(event->position().toPoint());
+  if (event->button() == Qt::LeftButton && model_->placeOf(field) >= 0) Q_EMIT DblClick();
 }
 
 void ColorPalette::mousePressEvent(QMouseEvent* event) {
@@ -120,7 +153,8 @@ void ColorPalette::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Enter:
     case Qt::Key_Space:
       if (selectedIndex() < 0) return event->ignore();
-      return pick(currentIndex());
+      if (pick(currentIndex())) Q_EMIT DblClick();
+      return;
     case Qt::Key_Left:
     case Qt::Key_Right:
     case Qt::Key_Up:

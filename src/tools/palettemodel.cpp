@@ -14,6 +14,11 @@ void PaletteModel::setColors(Palette colors) {
   endResetModel();
 }
 
+void PaletteModel::setColor(const QModelIndex& field, ColorValue color) {
+  colors_.at(static_cast<std::size_t>(placeOf(field))) = color;
+  Q_EMIT dataChanged(field, field);
+}
+
 int PaletteModel::columns() const {
   int columns = 4;
   while (static_cast<std::size_t>(columns) * static_cast<std::size_t>(columns) < colors_.size())

@@ -18,6 +18,8 @@ class PaletteModel : public QAbstractTableModel {
 
   const Palette& colors() const { return colors_; }
   void setColors(Palette colors);
+  /// Changes the colour of a field that is not empty.
+  void setColor(const QModelIndex& field, ColorValue color);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

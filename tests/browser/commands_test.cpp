@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browserfixture.h"
 
-#include <QWidget>
+#include <QApplication>
+#include <QLineEdit>
+#include <QTimer>
 
 namespace quillane {
 
@@ -51,7 +53,8 @@ struct Row {
 
 constexpr Row kRows[] = {
     {"btnBrowse btnHome btnRefresh btnNew btnViewXML mnuFileItem_1 mnuFileItem_10 mnuEditItem_6 "
-     "mnuEditItem_7 mnuToolsItem_5 mnuViewItem_1 mnuViewItem_3 mnuNaviItem_4 mnuNaviItem_5 "
+     "mnuEditItem_7 mnuEditItem_9 mnuToolsItem_5 mnuViewItem_1 mnuViewItem_3 mnuNaviItem_4 "
+     "mnuNaviItem_5 "
      "mnuHelpItem_1 "
      "mnuHelpItem_5 mnuHelpItemInternet_1 mnuHelpItemInternet_2",
      "1111111111"},
@@ -94,6 +97,27 @@ TEST_F(Commands, OfferTheImageWizardWherePicturesCanBeWritten) {
     state.IViewPresent = present;
     open();
     EXPECT_EQ(control<QAction>("mnuToolsItem_4").isEnabled(), present);
+  }
+}
+
+TEST_F(Commands, ShowTheThemeAnewAfterThePreferences) {
+  addThemes("a");
+  state.QualitiesFile = path("qualities.ini");
+  for (const bool selected : {false, true}) {
+    open();
+    if (selected) select(0);
+    const auto closeWith = [this](const char* button, const QString& name) {
+      QTimer::singleShot(0, browser.get(), [=] {
+        QWidget& form = *QApplication::activeModalWidget();
+        controlOf<QLineEdit>(form, "txtOperatorName").setText(name);
+        controlOf<QAbstractButton>(form, button).click();
+      });
+      trigger("mnuEditItem_9");
+      return control<PictureBox>("picStandby").surface().image();
+    };
+    const QImage before = closeWith("btnCancel", "Other");
+    EXPECT_EQ(closeWith("btnOK", "Other") != before, selected);
+    EXPECT_EQ(closeWith("btnOK", "World"), before);
   }
 }
 

@@ -86,6 +86,28 @@ TEST_F(Ini, ReadsAsTheFileStands) {
   EXPECT_EQ(ReadIni("Menu", "Titles", "standard", path("missing.lng")), "standard");
 }
 
+TEST_F(Ini, WritesAValueAndKeepsTheRest) {
+  const std::tuple<const char*, QByteArray, QByteArray> cases[] = {
+      {"no text", "", "[B]\r\nKey One=7\r\n"},
+      {"another section", "[A]\r\nKey One=1\r\n", "[A]\r\nKey One=1\r\n[B]\r\nKey One=7\r\n"},
+      {"a value to replace", "; x\r\n[b ]\r\n key one = 1\r\nz=2\r\n",
+       "; x\r\n[b ]\r\nKey One=7\r\nz=2\r\n"},
+      {"the first of two", "[B]\nKey One=1\nKey One=2\n", "[B]\nKey One=7\r\nKey One=2\n"},
+      {"a comment like it", "[B]\r\n;Key One=1\r\n", "[B]\r\n;Key One=1\r\nKey One=7\r\n"},
+      {"a section before others", "[B]\r\na=1\r\n\r\n[C]\r\nKey One=2\r\n",
+       "[B]\r\na=1\r\nKey One=7\r\n\r\n[C]\r\nKey One=2\r\n"},
+      {"an empty section", "[B]\r\n[C]\r\n", "[B]\r\nKey One=7\r\n[C]\r\n"},
+      {"no line end", "[B]\r\na=\xE4", "[B]\r\na=\xE4\r\nKey One=7\r\n"}};
+  for (const auto& [name, before, after] : cases) {
+    const QString file = write("x.ini", before);
+    WriteIni("B", "Key One", "7", file);
+    EXPECT_EQ(read("x.ini"), after) << name;
+    EXPECT_EQ(ReadIni("B", "Key One", "", file), "7") << name;
+  }
+  WriteIni("B", "Key One", "7", path("new/folder/x.ini"));
+  EXPECT_EQ(read("new/folder/x.ini"), "[B]\r\nKey One=7\r\n");
+}
+
 class Seed : public TempFolder {
  protected:
   void seed() { seedProgramFolder({path("home"), path("shipped"), {}, {}}, log.reporter()); }
