@@ -176,7 +176,7 @@ void expectSameShape(const Row& row, const QString& face, const QString& value,
   ASSERT_EQ(labels.size(), standards.size()) << row.section << ' ' << row.key;
   for (int i = 0; i < labels.size(); ++i) {
     EXPECT_EQ(labels[i].left(row.flags), standards[i].left(row.flags)) << qPrintable(labels[i]);
-    const int points = row.points[std::min<std::size_t>(i, row.points.size() - 1)];
+    const int points = row.points[std::min(static_cast<std::size_t>(i), row.points.size() - 1)];
     const auto width = [&](const QString& label) {
       SizedFace& sized = Faces::shared().face(face, points, row.bold);
       return sized.widthOf(label.mid(row.flags).replace("&&", "&"));
