@@ -45,13 +45,6 @@ QString orNotThere(const QString& text) {
   return text.isEmpty() ? u"n/a"_s : text;
 }
 
-/// Shows a stranger's text in the one line that a label has.
-void showLine(QLabel& label, const QString& text) {
-  const QString line = oneLine(widgetText(text));
-  label.setText(label.fontMetrics().elidedText(line, Qt::ElideMiddle, label.width()));
-  label.setToolTip(label.text() == text ? QString() : tipText(text));
-}
-
 void showLine(QLineEdit& box, const QString& text) {
   box.setText(text);
   box.setCursorPosition(0);

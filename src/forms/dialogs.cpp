@@ -14,6 +14,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -96,6 +97,12 @@ QString oneLine(QString text) {
   for (QChar& character : text)
     if (character.category() == QChar::Other_Control) character = u' ';
   return text;
+}
+
+void showLine(QLabel& label, const QString& text) {
+  const QString line = oneLine(widgetText(text));
+  label.setText(label.fontMetrics().elidedText(line, Qt::ElideMiddle, label.width()));
+  label.setToolTip(label.text() == text ? QString() : tipText(text));
 }
 
 QString titleText(QString text) {

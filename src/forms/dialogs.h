@@ -10,6 +10,7 @@
 #include <array>
 #include <optional>
 
+class QLabel;
 class QUrl;
 class QWidget;
 
@@ -79,6 +80,10 @@ QString oneLine(QString text);
 
 /// A stranger's text for a tooltip, which would take some texts for markup.
 QString tipText(const QString& text);
+
+/// Shows a stranger's text in the one line that a label has, and all of it as its tooltip where that
+/// is too short.
+void showLine(QLabel& label, const QString& text);
 
 /// A text of the program for the title of a window, whose toolkit takes a single "[*]" for its mark
 /// of an unsaved document.

@@ -91,8 +91,13 @@ IniSettings::IniSettings(const QString& file, const FaultReporter& report) {
 
 IniSettings::~IniSettings() = default;
 
+// The store writes its section General as [%General]; one that a person wrote as [General] holds
+// keys without a section to it.
 QString IniSettings::read(const Setting& setting) const {
-  return textOf(settings_->value(nameOf(setting), QLatin1String(setting.standard)));
+  const QString name = nameOf(setting);
+  const bool isBare = QLatin1String(setting.section) == "General"_L1 && !settings_->contains(name);
+  return textOf(settings_->value(isBare ? QString(QLatin1String(setting.key)) : name,
+                                 QLatin1String(setting.standard)));
 }
 
 void IniSettings::write(const Setting& setting, const QString& value) {
@@ -100,6 +105,12 @@ void IniSettings::write(const Setting& setting, const QString& value) {
 }
 
 void IniSettings::flush() {
+  // A store that has failed once says so for ever. A new one takes over what was not written, so it
+  // has to be there before the old one goes.
+  if (settings_->status() == QSettings::AccessError) {
+    auto fresh = std::make_unique<QSettings>(settings_->fileName(), QSettings::IniFormat);
+    settings_ = std::move(fresh);
+  }
   settings_->sync();
   if (settings_->status() != QSettings::AccessError) return;
   throw Fault(FaultNumber::NoPermission,

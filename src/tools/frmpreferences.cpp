@@ -173,6 +173,7 @@ void frmPreferences::Form_Load() {
   ui_->lblList_8->setVisible(state_.IViewPresent);
   ui_->lblGroup_2->setVisible(state_.IViewPresent);
   chkDefThmFolder_Click();
+  txtOperatorName_Change();
   chkDisableETT_Click();
   showRange();
   showLevels();
@@ -230,6 +231,7 @@ void frmPreferences::ctrColorPalette_DblClick() {
 void frmPreferences::btnAssociate_Click(const std::function<void()>& act, const QString& message) {
   // The message shows in any case, by design.
   try {
+    const cHourglass wait;
     act();
   } catch (const Fault& fault) {
     tellTerminal(fault);
@@ -248,10 +250,10 @@ void frmPreferences::cboLanguage_Click(int index) {
     return ReadIni(u"FileInfo"_s, key, standard, path);
   };
   const QString unknown = u"unknown"_s;
-  findChild<QLabel*>("lblLngVersion_"_L1 + number)
-      ->setText("Version: "_L1 + info(u"Version"_s, unknown));
-  findChild<QLabel*>("lblLngAuthor_"_L1 + number)
-      ->setText("Author: "_L1 + info(u"Author"_s, unknown));
+  showLine(*findChild<QLabel*>("lblLngVersion_"_L1 + number),
+           "Version: "_L1 + info(u"Version"_s, unknown));
+  showLine(*findChild<QLabel*>("lblLngAuthor_"_L1 + number),
+           "Author: "_L1 + info(u"Author"_s, unknown));
   findChild<QPlainTextEdit*>("txtComment_"_L1 + number)
       ->setPlainText(info(u"Comment"_s, QString()));
 }

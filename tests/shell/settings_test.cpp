@@ -64,6 +64,19 @@ TEST_F(Settings, SayWhenTheyCannotBeKept) {
   IniSettings store(path("config/x.ini"), log.reporter());
   store.write(setting::BatteryLevel, "3");
   EXPECT_NE(faultNumberOf([&] { store.flush(); }), 0);
+  ASSERT_TRUE(QFile::remove(path("config")));
+  makeFolder("config");
+  store.write(setting::SignalStrength, "2");
+  EXPECT_EQ(faultNumberOf([&] { store.flush(); }), 0) << "the way is free";
+  EXPECT_TRUE(read("config/x.ini").contains("BatteryLevel=3\nSignalStrength=2"));
+}
+
+TEST_F(Settings, AreReadFromASectionThatAPersonWrote) {
+  FaultLog log;
+  IniSettings store(write("x.ini", "[General]\nOperatorName=Ann\nBatteryLevel=3\n"),
+                    log.reporter());
+  store.write(setting::BatteryLevel, "4");
+  EXPECT_EQ(store.read(setting::OperatorName) + store.read(setting::BatteryLevel), "Ann4");
 }
 
 }  // namespace
