@@ -81,8 +81,8 @@ QString oneLine(QString text);
 /// A stranger's text for a tooltip, which would take some texts for markup.
 QString tipText(const QString& text);
 
-/// Shows a stranger's text in the one line that a label has, and all of it as its tooltip where that
-/// is too short.
+/// Shows a stranger's text in the one line that a label has, and all of it as its tooltip where
+/// that is too short.
 void showLine(QLabel& label, const QString& text);
 
 /// A text of the program for the title of a window, whose toolkit takes a single "[*]" for its mark
