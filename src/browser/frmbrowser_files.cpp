@@ -6,9 +6,10 @@
 #include "forms/filelistbox.h"
 #include "forms/modshfileoperation.h"
 #include "forms/renamebox.h"
-#include "shell/files.h"
 #include "shell/state.h"
 #include "ui_frmbrowser.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -44,7 +45,8 @@ void frmBrowser::btnDelete_Click() {
 
 void frmBrowser::refreshWithout(const QStringList& paths) {
   // A theme that was moved onto itself, skipped or could not be deleted stays selected.
-  if (std::all_of(paths.begin(), paths.end(), &FileExists)) return;
+  const auto isThere = [](const QString& path) { return QFileInfo::exists(path); };
+  if (std::all_of(paths.begin(), paths.end(), isThere)) return;
   refreshList();
   AfterRemoval();
 }
@@ -88,7 +90,7 @@ void frmBrowser::renameTheme(const QString& name) {
   // Inverting selects a theme that it does not load; the one under the box is meant. After a rename
   // the path of the theme is stale until the next selection, and its file is reported as gone.
   const QString shown = state_.BrowseFolder + ui_->filFiles->item(ui_->filFiles->listIndex());
-  const QString source = FileExists(state_.ThemeFilePath) ? shown : state_.ThemeFilePath;
+  const QString source = QFileInfo::exists(state_.ThemeFilePath) ? shown : state_.ThemeFilePath;
   if (!SHFileRename(this, dialogs_, source, state_.BrowseFolder + name)) return;
   refreshList();
   // The theme on show stays as it is.

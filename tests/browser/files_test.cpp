@@ -174,6 +174,15 @@ TEST_F(Files, StaySelectedWhereNothingWasMoved) {
   EXPECT_EQ(list().selectedItems(), QList<int>{1});
 }
 
+TEST_F(Files, AreNoPatternsWhereTheirNamesLookLikeSome) {
+  addThemes("b");
+  addTheme("*.thm");
+  openActive(0);
+  dialogs.expectQuestion("Move \"*", "Move to Trash");
+  press(Qt::Key_Delete);
+  EXPECT_EQ(listed(), QStringList{"b.thm"});
+}
+
 TEST_F(Files, ForgetKeysThatAreLetGoElsewhere) {
   addThemes("a");
   openActive(0);
