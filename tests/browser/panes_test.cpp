@@ -141,6 +141,10 @@ TEST_F(Panes, ShowTheXmlAboveThemselves) {
   EXPECT_EQ(xml.toPlainText(), "<Ericsson_theme>\n<Text Color=\"0x000001\"/>\n</Ericsson_theme>");
   click("btnClipboardCopy");
   EXPECT_EQ(QApplication::clipboard()->text(), state.ThemeXml);
+  xml.setFocus();
+  QTest::keyClick(&xml, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(xml.textCursor().selectedText().size(), xml.toPlainText().size());
+  EXPECT_EQ(list().selectedItems().size(), 1);
   list().setSelected(1, true);
   EXPECT_EQ(xml.toPlainText(), "") << "several themes have no text";
   trigger("mnuViewItem_1");
