@@ -9,6 +9,8 @@
 #include <QBitmap>
 #include <QRegion>
 
+#include <initializer_list>
+
 // Outside the namespace, as the resources of a static library ask for.
 static void loadProgramIcons() {
   Q_INIT_RESOURCE(programicons);
@@ -17,6 +19,20 @@ static void loadProgramIcons() {
 namespace quillane {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QIcon programIconOf(std::initializer_list<int> sides) {
+  loadProgramIcons();
+  QIcon icon;
+  // Left to find out the format, Qt would load all its picture plugins, also at a start that shows
+  // no picture.
+  for (const int side : sides)
+    icon.addPixmap(QPixmap(u":/program/%1.png"_s.arg(side), "png"));
+  return icon;
+}
+
+}  // namespace
 
 QPixmap formPixmap(int id) {
   QPixmap pixmap;
@@ -39,11 +55,12 @@ void dressButtons(QWidget& form, std::span<const ButtonPicture> pictures) {
 }
 
 QIcon programIcon() {
-  loadProgramIcons();
-  QIcon icon;
-  for (const int side : {16, 32, 48, 64, 128, 256})
-    icon.addFile(u":/program/%1.png"_s.arg(side));
-  return icon;
+  return programIconOf({16, 32, 48, 64});
+}
+
+QPixmap programPicture() {
+  constexpr int kSide = 128;
+  return programIconOf({kSide, 2 * kSide}).pixmap(kSide);
 }
 
 }  // namespace quillane

@@ -29,7 +29,11 @@ struct ButtonPicture {
 /// Gives buttons of a form their icons.
 void dressButtons(QWidget& form, std::span<const ButtonPicture> pictures);
 
-/// The icon of the program, in all its sizes.
+/// The icon of the program's windows. It has no larger sizes than task bars show: the display takes
+/// all of them at the start.
 QIcon programIcon();
+
+/// The program's picture, 128 pixels a side, sharp on dense displays.
+QPixmap programPicture();
 
 }  // namespace quillane

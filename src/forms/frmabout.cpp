@@ -55,7 +55,7 @@ QString librariesTable() {
 
 frmAbout::frmAbout(QWidget* owner) : QDialog(owner), ui_(std::make_unique<Ui::frmAbout>()) {
   ui_->setupUi(this);
-  ui_->imgIcon->setPixmap(programIcon().pixmap(128));
+  ui_->imgIcon->setPixmap(programPicture());
   ui_->lblVersion->setText(versionCaption());
   ui_->lblLibraries->setText(librariesTable());
   ui_->btnOK->setIcon(formIcon(kOkPicture));

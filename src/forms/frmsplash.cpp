@@ -14,7 +14,7 @@ frmSplash::frmSplash()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
       ui_(std::make_unique<Ui::frmSplash>()) {
   ui_->setupUi(this);
-  ui_->imgIcon->setPixmap(programIcon().pixmap(128));
+  ui_->imgIcon->setPixmap(programPicture());
   ui_->lblVersion->setText(versionCaption());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Times what a person waits for against the least that the same work could cost. Both halves of a
 // pair run in turn within one loop, so the ratio holds on a noisy machine.
+#include "bench/compare.h"
 #include "preview/modapigraphics.h"
 #include "preview/screens.h"
 #include "preview/surface.h"
@@ -21,37 +22,13 @@
 #include <archive_entry.h>
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <filesystem>
 
 namespace quillane {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 const FaultReporter kQuiet = [](const Fault&) {};
-
-template <typename Work>
-double seconds(Work&& work) {
-  const auto start = Clock::now();
-  work();
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-/// Runs both in turn and reports the ratio of their sums; the time shown is that of `work`.
-template <typename Work, typename Least>
-void compare(benchmark::State& state, Work&& work, Least&& least) {
-  double worked = 0;
-  double leastWorked = 0;
-  for (auto _ : state) {
-    const double once = seconds(work);
-    state.SetIterationTime(once);
-    worked += once;
-    leastWorked += seconds(least);
-  }
-  state.counters["ratio"] = worked / leastWorked;
-}
 
 /// The engines and a work folder, as the browser has them.
 class Desk {
