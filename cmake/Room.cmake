@@ -13,6 +13,10 @@ function(quillane_compile_rules target)
       -fno-sanitize-recover=undefined)
     target_link_options(${target} PUBLIC -fsanitize=address,undefined)
   endif()
+  if(QUILLANE_COVERAGE)
+    target_compile_options(${target} PUBLIC --coverage)
+    target_link_options(${target} PUBLIC --coverage)
+  endif()
 endfunction()
 
 # A room of the house: one static library, linked only with what its row names.
