@@ -13,6 +13,9 @@ function(quillane_compile_rules target)
       -fno-sanitize-recover=undefined)
     target_link_options(${target} PUBLIC -fsanitize=address,undefined)
   endif()
+  if(QUILLANE_FUZZ) # tells the fuzzers which ways an input takes
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
 endfunction()
 
 # A room of the house: one static library, linked only with what its row names.
