@@ -37,12 +37,11 @@ TEST_P(FuzzCorpus, Holds) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Targets, FuzzCorpus,
-                         testing::Values(Target{"language", languageTarget},
-                                         Target{"palette", paletteTarget},
-                                         Target{"parsexml", parsexmlTarget},
-                                         Target{"picture", pictureTarget},
-                                         Target{"theme", themeTarget}));
+INSTANTIATE_TEST_SUITE_P(
+    Targets, FuzzCorpus,
+    testing::Values(Target{"language", languageTarget}, Target{"palette", paletteTarget},
+                    Target{"parsexml", parsexmlTarget}, Target{"picture", pictureTarget},
+                    Target{"screens", screensTarget}, Target{"theme", themeTarget}));
 
 }  // namespace
 

@@ -1,13 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "fuzz/paintall.h"
 #include "fuzz/targets.h"
 #include "preview/pipelist.h"
 #include "shell/ini.h"
-#include "shell/language.h"
 #include "shell/settings.h"
-#include "shell/state.h"
-#include "support/stillworld.h"
 
 #include <QStringList>
 
@@ -58,17 +54,6 @@ void expectWritable(const QString& file) {
   }
 }
 
-template <class Engine>
-void paintTexts(const PublicState& state,
-                void (*init)(Engine&, const PublicState&, const SettingsStore&,
-                             const FaultReporter&)) {
-  StillWorld world;
-  Engine engine(world);
-  init(engine, state, MemorySettings(),
-       [](const Fault&) { expect(false, "a language file that is there can be read"); });
-  paintAll(engine);
-}
-
 void expectSettings(const QString& file) {
   const FaultReporter pass = [](const Fault&) {};
   const IniSettings settings(file, pass);
@@ -83,17 +68,8 @@ void expectSettings(const QString& file) {
 
 void languageTarget(QByteArrayView bytes) {
   static const Scratch scratch;
-  PublicState state;
-  state.ConfigFolder2 = state.ConfigFolder3G = scratch.path() + u'/';
-  state.LanguageFile2 = state.LanguageFile3G = u"texts.lng"_s;
-  const QString file = scratch.write(state.LanguageFile2, bytes);
-
+  const QString file = scratch.write(u"texts.ini"_s, bytes);
   expectValues(file);
-  // In turns: painting takes most of the time.
-  if (bytes.size() % 2 == 0)
-    paintTexts<clsVistrel>(state, InitPreview2);
-  else
-    paintTexts<clsVistrel3G>(state, InitPreview3G);
   expectSettings(file);
   expectWritable(file);
 }

@@ -17,7 +17,8 @@ void languageTarget(QByteArrayView bytes);  ///< As a language file, and as a se
 void paletteTarget(QByteArrayView bytes);   ///< As a palette.
 void parsexmlTarget(QByteArrayView bytes);  ///< As the text of a theme.
 void pictureTarget(QByteArrayView bytes);   ///< As a picture file.
-void themeTarget(QByteArrayView bytes);     ///< As an archive, up to the painted screens.
+void screensTarget(QByteArrayView bytes);   ///< As texts and colours of the painted screens.
+void themeTarget(QByteArrayView bytes);     ///< As an archive, up to the loaded theme.
 
 /// Ends a target that does not hold.
 inline void expect(bool holds, const char* property) {
