@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/targets.h"
 #include "preview/picture.h"
+#include "shell/converter.h"
 #include "shell/imagerules.h"
 #include "theme/fault.h"
 
@@ -37,13 +38,36 @@ void expectMasked(const Picture& picture) {
   }
 }
 
+bool areSame(QRgb left, QRgb right) {
+  return left == right || (qAlpha(left) == 0 && qAlpha(right) == 0);
+}
+
+bool areSame(const QImage& left, const QImage& right) {
+  if (left.size() != right.size()) return false;
+  for (int y = 0; y < left.height(); ++y)
+    for (int x = 0; x < left.width(); ++x)
+      if (!areSame(left.pixel(x, y), right.pixel(x, y))) return false;
+  return true;
+}
+
+/// A GIF keeps every pixel of a picture that cannot have more colours than it has.
+void expectSavable(const QImage& image, const QString& path) {
+  constexpr int kSide = 16;
+  const QImage corner = image.copy(0, 0, qMin(image.width(), kSide), qMin(image.height(), kSide));
+  savePicture(corner, path, PictureKind::Gif, {});
+  expect(areSame(LoadPicture(path).image(), corner), "a picture saved as GIF is read as it was");
+}
+
 }  // namespace
 
 void pictureTarget(QByteArrayView bytes) {
   static const Scratch scratch;
   const QString path = scratch.write(u"picture"_s, bytes);
   const std::optional<Picture> picture = orNothing([&] { return LoadPicture(path); });
-  if (picture) expectMasked(*picture);
+  if (picture) {
+    expectMasked(*picture);
+    expectSavable(picture->image(), scratch.path(u"saved"_s));
+  }
 
   const std::optional<QSize> screen = IsGifFile(path);
   for (const Generation generation : {Generation::Two, Generation::ThreeG}) {

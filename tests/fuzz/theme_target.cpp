@@ -112,6 +112,29 @@ void expectSameListing(const QString& theme, const ArchiveResult& extracted) {
          "a listing names what is extracted");
 }
 
+/// The regular files of the folder as a new archive. Large ones would take most of the time.
+void expectPackable(const QString& folder) {
+  static const Scratch scratch;
+  constexpr qint64 kMost = 1 << 18;
+  QStringList files;
+  QList<qint64> sizes;
+  qint64 total = 0;
+  for (const QFileInfo& file :
+       QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Name)) {
+    files += file.filePath();
+    sizes += file.size();
+    total += file.size();
+  }
+  if (total > kMost) return;
+  const QString packed = scratch.path(u"packed.thm"_s);
+  packArchive(packed, files);
+  const ArchiveResult listed = listArchive(packed);
+  expect(listed.code == Success, "what was extracted can be packed and read");
+  expect(std::equal(listed.members.begin(), listed.members.end(), sizes.begin(), sizes.end(),
+                    [](const ArchiveMember& member, qint64 size) { return member.size == size; }),
+         "a packed archive holds all files");
+}
+
 void expectImages(const LoadedTheme& theme, const ImageStates& states, const QString& folder) {
   const std::span<const ImageElement> slots = theme.values.schema().images;
   qsizetype missing = 0;
@@ -146,6 +169,7 @@ void themeTarget(QByteArrayView bytes) {
   expectWithinLimits(extracted);
   expectMembersIn(work.path(), extracted);
   expectSameListing(path, extracted);
+  expectPackable(work.path());
 
   ImageStates states{};
   const std::optional<LoadedTheme> theme = loadTheme(work.path(), states, [](const Fault&) {});
