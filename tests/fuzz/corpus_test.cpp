@@ -22,7 +22,7 @@ class FuzzCorpus : public testing::TestWithParam<Target> {};
 
 /// Every seed, whole and cut at places all over it.
 TEST_P(FuzzCorpus, Holds) {
-  constexpr qsizetype kMostCuts = 12;
+  constexpr qsizetype kMostCuts = 8;
   const QDir folder(QString(QUILLANE_FUZZ_CORPUS "/") + GetParam().name);
   const QStringList seeds = folder.entryList(QDir::Files);
   ASSERT_FALSE(seeds.isEmpty());
