@@ -17,6 +17,9 @@ function(quillane_compile_rules target)
     target_compile_options(${target} PUBLIC --coverage)
     target_link_options(${target} PUBLIC --coverage)
   endif()
+  if(QUILLANE_FUZZ) # tells the fuzzers which ways an input takes
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
 endfunction()
 
 # A room of the house: one static library, linked only with what its row names.

@@ -80,6 +80,15 @@ QImage withIconMask(const QImage& decoded, const QByteArray& bytes) {
   return image;
 }
 
+/// A picture of nothing for a decoder to fill. The one of bitmaps leaves the pixels that its data
+/// do not reach as they were, which in a picture of its own is what the memory held before.
+QImage cleared(const QImageReader& reader) {
+  const QSize size = reader.size();
+  QImage image(qAbs(size.width()), qAbs(size.height()), reader.imageFormat());
+  image.fill(0);
+  return image;
+}
+
 /// Decodes the bytes of a picture file; a null image when they are none.
 QImage decode(QByteArray bytes) {
   const QByteArray format = formatOf(bytes);
@@ -94,9 +103,9 @@ QImage decode(QByteArray bytes) {
   QImageReader reader(&buffer, format);
   reader.setAutoDetectImageFormat(false);
   if (isTooLarge(reader.size())) return {};
-  const QImage image = reader.read();
-  if (isTooLarge(image.size())) return {};
-  return format == "ico" && !image.isNull() ? withIconMask(image, bytes) : image;
+  QImage image = cleared(reader);
+  if (!reader.read(&image) || isTooLarge(image.size())) return {};
+  return format == "ico" ? withIconMask(image, bytes) : image;
 }
 
 /// Decodes, or remembers having decoded the same bytes: the screens of a theme share their

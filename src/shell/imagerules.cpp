@@ -40,8 +40,11 @@ std::optional<QSize> IsGifFile(const QString& path) {
 
 QSize themePictureSize(const ThemeSchema& schema, const QString& path) {
   const QByteArray bytes = readFile(path);
-  if (const std::optional<QSize> screen = gifScreen(bytes)) return *screen;
-  if (schema.takesJpeg && bytes.startsWith("\xFF\xD8\xFF")) return LoadPicture(path).image().size();
+  const std::optional<QSize> screen = gifScreen(bytes);
+  if (screen && !screen->isEmpty()) return *screen;
+  // A GIF without a screen shows its frame, however large that is.
+  if (screen || (schema.takesJpeg && bytes.startsWith("\xFF\xD8\xFF")))
+    return LoadPicture(path).image().size();
   const QString kinds = schema.takesJpeg ? u"neither a GIF nor a JPEG file"_s : u"no GIF file"_s;
   throw Fault(FaultNumber::BadPicture, u"\"%1\" is %2."_s.arg(path, kinds));
 }

@@ -16,8 +16,8 @@ namespace quillane {
 std::optional<QSize> IsGifFile(const QString& path);
 
 /// Size in pixels of a picture of a kind that the images of a generation may have: a GIF's logical
-/// screen, or the picture of a JPEG in 3G. Told by content. Throws `Fault` for a file of another
-/// kind or one that cannot be read.
+/// screen, or its frame when that is empty, or the picture of a JPEG in 3G. Told by content. Throws
+/// `Fault` for a file of another kind or one that cannot be read.
 QSize themePictureSize(const ThemeSchema& schema, const QString& path);
 
 /// Whether a slot takes a picture of this size.

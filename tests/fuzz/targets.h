@@ -3,16 +3,49 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <stdexcept>
 
 namespace quillane {
 
-/// Reads bytes as an archive; whether what came out is what may come out of any bytes.
-bool archiveHolds(QByteArrayView bytes);
+/// Each target hands bytes from strangers to a reader of the program and holds what comes out to
+/// what has to be true of any bytes; it throws `std::logic_error` that names what is not.
+void languageTarget(QByteArrayView bytes);  ///< As a language file, and as a settings file.
+void paletteTarget(QByteArrayView bytes);   ///< As a palette.
+void parsexmlTarget(QByteArrayView bytes);  ///< As the text of a theme.
+void pictureTarget(QByteArrayView bytes);   ///< As a picture file.
+void screensTarget(QByteArrayView bytes);   ///< As texts and colours of the painted screens.
+void themeTarget(QByteArrayView bytes);     ///< As an archive, up to the loaded theme.
 
-/// Looks up every element in bytes as a theme's text; the same question.
-bool parseXmlHolds(QByteArrayView bytes);
+/// Ends a target that does not hold.
+inline void expect(bool holds, const char* property) {
+  if (!holds) throw std::logic_error(property);
+}
 
-/// Reads bytes as a palette; the same question.
-bool paletteHolds(QByteArrayView bytes);
+/// Files for the readers that take a path, in memory where TMPDIR lies there.
+class Scratch {
+ public:
+  QString path(const QString& name = {}) const { return folder_.filePath(name); }
+
+  QString write(const QString& name, QByteArrayView bytes) const {
+    QFile file(path(name));
+    expect(
+        file.open(QIODevice::WriteOnly) && file.write(bytes.data(), bytes.size()) == bytes.size(),
+        "the scratch folder takes a file");
+    return file.fileName();
+  }
+
+  QByteArray read(const QString& name) const {
+    QFile file(path(name));
+    expect(file.open(QIODevice::ReadOnly), "a scratch file can be read");
+    return file.readAll();
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
 
 }  // namespace quillane

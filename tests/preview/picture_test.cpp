@@ -8,6 +8,8 @@
 #include <QBuffer>
 #include <QRegion>
 
+#include <malloc.h>
+
 namespace quillane {
 
 namespace {
@@ -112,6 +114,21 @@ TEST_F(PictureTest, TransparentPicturesKeepTheirHoles) {
         EXPECT_EQ(qAlpha(image.pixel(x, y)), seen.contains(QPoint(x, y)) ? 255 : 0)
             << name << " " << x << "," << y;
   }
+}
+
+TEST_F(PictureTest, PixelsOfACutBitmapAreNotWhatTheMemoryHeld) {
+  const QByteArray upward = encoded("bmp").chopped(12);  // A row less.
+  QByteArray downward = upward;
+  downward.replace(22, 4, QByteArray::fromHex("feffffff"));
+  mallopt(M_PERTURB, 0x5A);  // No byte of fresh memory is 0.
+  const std::tuple<const char*, QByteArray, int> table[] = {{"up.bmp", upward, 0},
+                                                            {"down.bmp", downward, 1}};
+  for (const auto& [name, bytes, row] : table) {
+    const QImage image = load(name, bytes);
+    for (int y = 0; y < 2; ++y)
+      EXPECT_EQ(image.pixel(1, y), y == row ? 0xFF000000 : 0xFFFF0000) << name << " " << y;
+  }
+  mallopt(M_PERTURB, 0);
 }
 
 TEST_F(PictureTest, NumberedIcons) {

@@ -46,6 +46,8 @@ TEST_F(ImageRules, PicturesAreToldByTheirContent) {
   EXPECT_EQ(themePictureSize(schemaOf(Generation::Two), gif), QSize(101, 20));
   EXPECT_EQ(themePictureSize(schemaOf(Generation::ThreeG), gif), QSize(101, 20));
   EXPECT_EQ(themePictureSize(schemaOf(Generation::ThreeG), jpeg), QSize(128, 14));
+  const QString noScreen = write("no screen.gif", tinyGif({0, 0}, {0, 0, 30, 20}, 1));
+  EXPECT_EQ(themePictureSize(schemaOf(Generation::Two), noScreen), QSize(30, 20));
   EXPECT_EQ(refusal(Generation::Two, jpeg), 481);
   EXPECT_EQ(refusal(Generation::ThreeG, broken), 481);
   for (const QString& file : {png, bmp})
