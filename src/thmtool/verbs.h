@@ -37,6 +37,7 @@ struct Verb {
 extern const Verb kRenderVerb;
 extern const Verb kInfoVerb;
 extern const Verb kXmlVerb;
+extern const Verb kCheckVerb;
 extern const Verb kUnpackVerb;
 extern const Verb kPackVerb;
 extern const Verb kNewVerb;
