@@ -21,7 +21,7 @@ std::optional<QSize> gifScreen(const QByteArray& start);
 /// What a phone's decoder has to cope with in a GIF or JPEG.
 struct PictureFacts {
   PictureForm form = PictureForm::Other;
-  QSize size{};  ///< Of a GIF its logical screen; 0 where it is not told.
+  QSize size{};            ///< Of a GIF its logical screen; 0 where it is not told.
   bool isDamaged = false;  ///< Cut off, not to be decoded, or with sides over 4096 pixels.
   bool isInterlaced = false;
   bool isAnimated = false;  ///< More than one frame.

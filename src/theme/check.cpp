@@ -51,8 +51,8 @@ class ContentsCheck {
     checkDoubles();
     checkUnnamed(xml.named);
     const bool isTwo = theme_.schema->generation == Generation::Two;
-    theme_.findings += indexFindings(
-        contents_, isTwo ? theme_.sources.at(gen2::TitleImageSmall) : QString());
+    theme_.findings +=
+        indexFindings(contents_, isTwo ? theme_.sources.at(gen2::TitleImageSmall) : QString());
     checkSources();
     checkSize();
     return std::move(theme_);
@@ -66,7 +66,7 @@ class ContentsCheck {
     QStringList xmls;
     for (const QString& name : theme_.files.keys())
       if (name.endsWith(".xml"_L1, Qt::CaseInsensitive)) xmls += name;
-    const QString taken = themeXmlName(xmls);
+    QString taken = themeXmlName(xmls);
     if (taken.isEmpty())
       add(Severity::Error, missingXmlError(fileName_).text);
     else if (xmls.size() > 1)
@@ -129,7 +129,8 @@ class ContentsCheck {
 }  // namespace
 
 QString clipped(QStringView text) {
-  return text.size() > kLongestText ? text.first(kLongestText).toString() + u"..."_s : text.toString();
+  return text.size() > kLongestText ? text.first(kLongestText).toString() + u"..."_s
+                                    : text.toString();
 }
 
 QString quoted(QStringView text) {

@@ -68,10 +68,9 @@ QList<Finding> entryFindings(const QStringList& entries, const QList<ArchiveMemb
     if (entries.value(next) == entry)
       ++next;
     else if (member.name != mayBeUnlisted)
-      return {indexFinding(
-          next < entries.size()
-              ? u"says %1 where %2 belongs"_s.arg(quoted(entries[next]), quoted(entry))
-              : u"ends before %1"_s.arg(quoted(entry)))};
+      return {indexFinding(next < entries.size() ? u"says %1 where %2 belongs"_s.arg(
+                                                       quoted(entries[next]), quoted(entry))
+                                                 : u"ends before %1"_s.arg(quoted(entry)))};
   }
   if (next == entries.size()) return {};
   return {indexFinding(u"says %1, which is not in the archive"_s.arg(quoted(entries[next])))};
@@ -89,15 +88,14 @@ QList<Finding> memberFindings(const ArchiveResult& archive) {
   for (const auto& [name, size, path] : archive.members) {
     const QString lower = name.toLower();
     if (path != name)
-      findings += {Severity::Warning,
-                   u"%1 lies in a folder; all files of a theme lie side by side."_s.arg(
-                       quoted(path))};
+      findings +=
+          {Severity::Warning,
+           u"%1 lies in a folder; all files of a theme lie side by side."_s.arg(quoted(path))};
     QStringList& names = alike[lower];
     if (names.contains(name)) continue;
     names += name;
     if (lower != name)
-      findings += {Severity::Warning,
-                   u"The name %1 is not in lower case."_s.arg(quoted(name))};
+      findings += {Severity::Warning, u"The name %1 is not in lower case."_s.arg(quoted(name))};
   }
   return findings + caseFindings(alike);
 }

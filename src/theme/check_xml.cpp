@@ -95,8 +95,8 @@ class XmlCheck {
     checked_.named.insert(source);
     if (!isReadAsWritten(image.element, source) || source.isEmpty() || source == kNoImage) return;
     if (namesNoFile(source))
-      add(Severity::Error, u"%1: %2 cannot be the name of a file."_s.arg(image.element,
-                                                                         quoted(source)));
+      add(Severity::Error,
+          u"%1: %2 cannot be the name of a file."_s.arg(image.element, quoted(source)));
     else
       checked_.sources[static_cast<std::size_t>(slot)] = source;
   }
@@ -115,16 +115,14 @@ class XmlCheck {
   }
 
   void checkElements() {
-    if (!hasRoot_)
-      add(Severity::Error, u"The root element \"%1\" is missing."_s.arg(schema_.root));
+    if (!hasRoot_) add(Severity::Error, u"The root element \"%1\" is missing."_s.arg(schema_.root));
     if (!missing_.isEmpty())
       add(Severity::Warning, u"Colours that are missing: %1."_s.arg(listed(missing_)));
     QStringList doubled;
     for (auto element = written_.cbegin(); element != written_.cend(); ++element)
       if (element->times > 1) doubled += element.key();
     tellNames(doubled, u"Elements that come again, of which the first counts: %1."_s);
-    tellNames(QStringList(unknown_.cbegin(), unknown_.cend()),
-              u"Elements that are unknown: %1."_s);
+    tellNames(QStringList(unknown_.cbegin(), unknown_.cend()), u"Elements that are unknown: %1."_s);
   }
 
   void tellNames(QStringList names, const QString& words) {

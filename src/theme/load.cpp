@@ -89,8 +89,7 @@ class ValueLoad {
     states_.at(static_cast<std::size_t>(image.state)) = !named           ? SlotState::None
                                                         : path.isEmpty() ? SlotState::Missing
                                                                          : SlotState::Found;
-    if (named && path.isEmpty())
-      theme_.warnings += missingImageText(image, name);
+    if (named && path.isEmpty()) theme_.warnings += missingImageText(image, name);
   }
 
   LoadedTheme& theme_;

@@ -38,7 +38,8 @@ class TagScan {
     const QStringView rest = text_.sliced(at);
     if (rest.startsWith("<!--"_L1)) inComment_ = true;
     if (rest.startsWith("-->"_L1)) inComment_ = false;
-    const bool isTag = rest.size() > 1 && rest[0] == u'<' && (rest[1].isLetter() || rest[1] == u'_');
+    const bool isTag =
+        rest.size() > 1 && rest[0] == u'<' && (rest[1].isLetter() || rest[1] == u'_');
     return isTag ? tag(at + 1) : at + 1;
   }
 

@@ -84,7 +84,9 @@ int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString
                                 .workFolder = folder.path()},
                                [&](const Fault& fault) { streams.complain(fault.description()); });
   // What was warned of would be found once more in the archive, in other words.
-  if (saved) tellFindings(warnings.isEmpty() ? checkTheme(themePath) : closeColorFindings(theme.values), streams);
+  if (saved)
+    tellFindings(warnings.isEmpty() ? checkTheme(themePath) : closeColorFindings(theme.values),
+                 streams);
   return saved ? AllWell : NotDone;
 }
 

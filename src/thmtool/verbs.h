@@ -32,6 +32,7 @@ struct Verb {
   std::span<const OptionRow> options;
   /// Returns an `ExitStatus`; may throw `UsageError`, `UnreadableTheme` and `Fault`.
   int (*run)(const QCommandLineParser& given, const Streams& streams);
+  QLatin1String more{};  ///< What its help says below the summary, in lines.
 };
 
 extern const Verb kRenderVerb;
