@@ -9,22 +9,12 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QtEndian>
 
 namespace quillane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The logical screen in the first bytes of a GIF; nothing where they are of another file.
-std::optional<QSize> gifScreen(const QByteArray& start) {
-  constexpr qsizetype kHeader = 10;
-  const bool isGif = start.startsWith("GIF87a") || start.startsWith("GIF89a");
-  if (!isGif || start.size() < kHeader) return std::nullopt;
-  return QSize(qFromLittleEndian<quint16>(start.constData() + 6),
-               qFromLittleEndian<quint16>(start.constData() + 8));
-}
 
 QString sizeOf(QSize size) {
   return u"%1x%2"_s.arg(size.width()).arg(size.height());
@@ -40,13 +30,20 @@ std::optional<QSize> IsGifFile(const QString& path) {
 
 QSize themePictureSize(const ThemeSchema& schema, const QString& path) {
   const QByteArray bytes = readFile(path);
-  const std::optional<QSize> screen = gifScreen(bytes);
-  if (screen && !screen->isEmpty()) return *screen;
+  if (!takesForm(schema, pictureForm(bytes)))
+    throw Fault(FaultNumber::BadPicture, wrongKindText(schema, path));
   // A GIF without a screen shows its frame, however large that is.
-  if (screen || (schema.takesJpeg && bytes.startsWith("\xFF\xD8\xFF")))
-    return LoadPicture(path).image().size();
+  const QSize screen = gifScreen(bytes).value_or(QSize());
+  return screen.isEmpty() ? LoadPicture(path).image().size() : screen;
+}
+
+bool takesForm(const ThemeSchema& schema, PictureForm kind) {
+  return kind == PictureForm::Gif || (kind == PictureForm::Jpeg && schema.takesJpeg);
+}
+
+QString wrongKindText(const ThemeSchema& schema, const QString& file) {
   const QString kinds = schema.takesJpeg ? u"neither a GIF nor a JPEG file"_s : u"no GIF file"_s;
-  throw Fault(FaultNumber::BadPicture, u"\"%1\" is %2."_s.arg(path, kinds));
+  return u"\"%1\" is %2."_s.arg(file, kinds);
 }
 
 bool takesSize(const ImageElement& slot, QSize size) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/picturefacts.h"
 #include "theme/elements.h"
 
 #include <QSize>
@@ -19,6 +20,12 @@ std::optional<QSize> IsGifFile(const QString& path);
 /// screen, or its frame when that is empty, or the picture of a JPEG in 3G. Told by content. Throws
 /// `Fault` for a file of another kind or one that cannot be read.
 QSize themePictureSize(const ThemeSchema& schema, const QString& path);
+
+/// Whether the images of a generation may be of this kind.
+bool takesForm(const ThemeSchema& schema, PictureForm kind);
+
+/// The complaint about a file of a kind that the images of a generation may not have.
+QString wrongKindText(const ThemeSchema& schema, const QString& file);
 
 /// Whether a slot takes a picture of this size.
 bool takesSize(const ImageElement& slot, QSize size);

@@ -46,6 +46,32 @@ class NoSink final : public MemberSink {
   int end() override { return Success; }
 };
 
+/// Keeps the bytes of all members.
+class MemorySink final : public MemberSink {
+ public:
+  explicit MemorySink(QList<QByteArray>& bytes) : bytes_(bytes) {}
+
+  int begin(const ArchiveMember& member, qint64) override {
+    size_ = member.size;
+    bytes_.emplaceBack();
+    return Success;
+  }
+  // The size is the archive's word; only bytes that really come, or the member's end, cost memory.
+  int write(qint64 offset, QByteArrayView bytes) override {
+    if (bytes_.constLast().size() < offset) bytes_.last().resize(offset, '\0');
+    bytes_.last().replace(offset, bytes.size(), bytes.toByteArray());
+    return Success;
+  }
+  int end() override {
+    bytes_.last().resize(size_, '\0');
+    return Success;
+  }
+
+ private:
+  QList<QByteArray>& bytes_;
+  qint64 size_ = 0;
+};
+
 ArchiveResult readTheme(const QString& themePath, MemberSink& sink) {
   QFile theme(themePath);
   if (!QFileInfo(themePath).isFile() || !theme.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
@@ -63,6 +89,14 @@ ArchiveResult extractArchive(const QString& themePath, const QString& folder) {
 ArchiveResult listArchive(const QString& themePath) {
   NoSink sink;
   return readTheme(themePath, sink);
+}
+
+ArchiveContents readContents(const QString& themePath) {
+  ArchiveContents contents;
+  MemorySink sink(contents.bytes);
+  contents.result = readTheme(themePath, sink);
+  contents.fileSize = QFileInfo(themePath).size();
+  return contents;
 }
 
 ThemeError archiveError(int code, const QString& fileName) {

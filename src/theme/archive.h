@@ -2,18 +2,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <cstdint>
 
 namespace quillane {
 
 class ThemeValues;
 
+/// Name of the member that lists the others.
+inline constexpr QLatin1String kIndexName{"index.txt"};
+
 /// A regular member of a theme archive as the reader takes it: bare name and size in bytes.
 struct ArchiveMember {
   QString name;
   qint64 size = 0;
+  QString path{};  ///< As the archive has it, but for what makes it longer than a name may be.
+};
+
+/// Why the reader passes over a member.
+enum class PassedReason : std::uint8_t { Folder, Link, Device, Name };
+
+/// A member that the reader does not take.
+struct PassedMember {
+  QString path;
+  PassedReason reason;
 };
 
 /// Outcome of reading an archive; code 0 is success, `archiveError` has words for the others.
@@ -21,6 +37,7 @@ struct ArchiveResult {
   int code = 0;
   /// The members in archive order, repeats included.
   QList<ArchiveMember> members;
+  QList<PassedMember> passed{};
 };
 
 /// Extracts the regular members of a theme into `folder` under their bare names, with the member's
@@ -30,6 +47,17 @@ ArchiveResult extractArchive(const QString& themePath, const QString& folder);
 
 /// Lists the members without writing anything.
 ArchiveResult listArchive(const QString& themePath);
+
+/// A theme archive in memory.
+struct ArchiveContents {
+  ArchiveResult result;
+  /// The bytes of each member of the result; of a theme that is damaged, those that came before.
+  QList<QByteArray> bytes;
+  qint64 fileSize = 0;
+};
+
+/// Reads an archive and what its members hold, at most as much as the reader takes.
+ArchiveContents readContents(const QString& themePath);
 
 /// Why a theme cannot be shown, in the words of the window and of the tool.
 struct ThemeError {

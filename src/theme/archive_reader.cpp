@@ -71,9 +71,36 @@ bool isRegular(archive_entry* entry) {
   return archive_entry_hardlink(entry) == nullptr && archive_entry_filetype(entry) == AE_IFREG;
 }
 
-QString takenName(archive_entry* entry) {
-  const char* const path = archive_entry_pathname(entry);
-  return path != nullptr && isRegular(entry) ? memberName(path) : QString();
+/// A member's path as the archive has it: UTF-8 where it is that, else the code page.
+QString pathText(QByteArrayView path) {
+  QStringDecoder utf8(QStringDecoder::Utf8,
+                      QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+  const QString text = utf8(path);
+  return utf8.hasError() ? fromCodePage(path) : text;
+}
+
+QByteArrayView pathOf(archive_entry* entry) {
+  return {archive_entry_pathname(entry)};
+}
+
+ArchiveMember memberOf(archive_entry* entry) {
+  const QByteArrayView path = pathOf(entry);
+  return {isRegular(entry) ? memberName(path) : QString(), archive_entry_size(entry),
+          pathText(path).left(kLongestName)};
+}
+
+PassedReason passedReason(archive_entry* entry) {
+  if (archive_entry_hardlink(entry) != nullptr) return PassedReason::Link;
+  switch (archive_entry_filetype(entry)) {
+    case AE_IFREG:
+      return PassedReason::Name;
+    case AE_IFDIR:
+      return PassedReason::Folder;
+    case AE_IFLNK:
+      return PassedReason::Link;
+    default:
+      return PassedReason::Device;
+  }
 }
 
 class Walk {
@@ -111,9 +138,12 @@ class Walk {
   }
 
   int walkMember(archive_entry* entry) {
-    const ArchiveMember member{takenName(entry), archive_entry_size(entry)};
+    const ArchiveMember member = memberOf(entry);
     if (!isWithinLimits(member)) return Damaged;
-    if (member.name.isEmpty()) return Success;
+    if (member.name.isEmpty()) {
+      result_.passed.append({member.path, passedReason(entry)});
+      return Success;
+    }
     result_.members.append(member);
     if (const int code = sink_.begin(member, archive_entry_mtime(entry)); code != Success)
       return code;
@@ -168,10 +198,7 @@ ArchiveResult readArchive(QIODevice& device, MemberSink& sink) {
 }
 
 QString memberName(QByteArrayView path) {
-  QStringDecoder utf8(QStringDecoder::Utf8,
-                      QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-  QString name = utf8(path);
-  if (utf8.hasError()) name = fromCodePage(path);
+  QString name = pathText(path);
   name.remove(0, std::max(name.lastIndexOf(u'/'), name.lastIndexOf(u'\\')) + 1);
   const bool passedOver = name == "."_L1 || name == ".."_L1 || name.contains(QChar()) ||
                           name.toUtf8().size() > kLongestName;

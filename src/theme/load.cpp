@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kNoImage = "xxx.gif"_L1;
-
 bool inNameOrder(const QString& left, const QString& right) {
   const int order = left.compare(right, Qt::CaseInsensitive);
   return order != 0 ? order < 0 : left < right;
@@ -38,12 +36,6 @@ QString replaced(const QString& text, QLatin1String before, QLatin1String after)
   }
   result += QStringView(text).sliced(taken);
   return result;
-}
-
-bool namesNoFile(const QString& name) {
-  return std::any_of(name.begin(), name.end(), [](QChar sign) {
-    return sign == u'/' || sign == u'\\' || sign == u'*' || sign == u'?' || sign.isNull();
-  });
 }
 
 /// Fills a theme's values from its text, element by element.
@@ -97,8 +89,7 @@ class ValueLoad {
     states_.at(static_cast<std::size_t>(image.state)) = !named           ? SlotState::None
                                                         : path.isEmpty() ? SlotState::Missing
                                                                          : SlotState::Found;
-    if (named && path.isEmpty())
-      theme_.warnings += QString(image.missingWords) + u'"' + name + u"\" not found."_s;
+    if (named && path.isEmpty()) theme_.warnings += missingImageText(image, name);
   }
 
   LoadedTheme& theme_;
@@ -109,11 +100,30 @@ class ValueLoad {
 
 }  // namespace
 
+bool namesNoFile(const QString& name) {
+  return std::any_of(name.begin(), name.end(), [](QChar sign) {
+    return sign == u'/' || sign == u'\\' || sign == u'*' || sign == u'?' || sign.isNull();
+  });
+}
+
+QString themeXmlName(const QStringList& names) {
+  QString first;
+  for (const QString& name : names) {
+    const bool isXml = name.endsWith(".xml"_L1, Qt::CaseInsensitive);
+    if (isXml && (first.isEmpty() || inNameOrder(name, first))) first = name;
+  }
+  return first;
+}
+
+QString missingImageText(const ImageElement& image, const QString& name) {
+  return QString(image.missingWords) + u'"' + name + u"\" not found."_s;
+}
+
 QString findThemeXml(const QString& folder) {
-  const QStringList names = QDir(folder).entryList(
-      {u"*.xml"_s}, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Unsorted);
-  const auto first = std::min_element(names.begin(), names.end(), inNameOrder);
-  return first == names.end() ? QString() : pathIn(folder, *first);
+  const QStringList names =
+      QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Unsorted);
+  const QString first = themeXmlName(names);
+  return first.isEmpty() ? QString() : pathIn(folder, first);
 }
 
 QString normaliseThemeXml(QString xml) {

@@ -20,8 +20,20 @@ struct LoadedTheme {
   QStringList warnings;  ///< A line for each missing image, in load order.
 };
 
-/// Path of the theme's XML in `folder`: the first "*.xml" in name order, letter case aside.
-/// Empty when there is none.
+/// What an image element says that has no image.
+inline constexpr QLatin1String kNoImage{"xxx.gif"};
+
+/// Whether a value can be no file's name: it holds a folder, a pattern character or a NUL.
+bool namesNoFile(const QString& name);
+
+/// The one of these names that is the theme's XML: the first "*.xml" in name order, letter case
+/// aside. Empty when there is none.
+QString themeXmlName(const QStringList& names);
+
+/// The warning about a slot whose file is not in the theme.
+QString missingImageText(const ImageElement& image, const QString& name);
+
+/// Path of the theme's XML in `folder` by `themeXmlName`, empty when there is none.
 QString findThemeXml(const QString& folder);
 
 /// Breaks an unbroken text into one tag a line and repairs a badly converted one.

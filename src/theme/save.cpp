@@ -18,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kIndexName = "index.txt"_L1;
 constexpr qsizetype kLongestName = 255;
 
 /// The folder in which a save makes its files: empty at first, gone with the object.

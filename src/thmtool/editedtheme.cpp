@@ -3,6 +3,7 @@
 #include "thmtool/editedtheme.h"
 
 #include "shell/imagerules.h"
+#include "shell/themecheck.h"
 #include "theme/save.h"
 #include "theme/writer.h"
 #include "thmtool/folders.h"
@@ -41,6 +42,11 @@ const ThemeValues* shownFor(const EditedTheme& theme, const ThemeValues* shown) 
   return isSmallEmpty ? nullptr : shown;
 }
 
+void tellFindings(const QList<Finding>& findings, const Streams& streams) {
+  for (const Finding& finding : findings)
+    streams.complain(finding.text);
+}
+
 }  // namespace
 
 void applyEdits(EditedTheme& theme, const EditOptions& options) {
@@ -65,7 +71,8 @@ int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString
                const EditOptions& options, const Streams& streams) {
   const ThemeTagTexts tags = options.writeTags ? theme.tags : ThemeTagTexts();
   const QString xml = generateXml(theme.values, tags);
-  for (const QString& warning : saveWarnings(theme.values, tags, xml))
+  const QStringList warnings = saveWarnings(theme.values, tags, xml);
+  for (const QString& warning : warnings)
     streams.complain(warning);
   const QTemporaryDir folder = makeWorkFolder();
   const bool saved = saveTheme({.themePath = themePath,
@@ -76,6 +83,10 @@ int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString
                                 .compress = options.compress,
                                 .workFolder = folder.path()},
                                [&](const Fault& fault) { streams.complain(fault.description()); });
+  // What was warned of would be found once more in the archive, in other words.
+  if (saved)
+    tellFindings(warnings.isEmpty() ? checkTheme(themePath) : closeColorFindings(theme.values),
+                 streams);
   return saved ? AllWell : NotDone;
 }
 

@@ -48,9 +48,8 @@ QString helpOfTool() {
   return u"Usage: thmtool VERB ...\n\n"
          "Works with themes of early colour phones, without a window.\n"_s +
          table.text("Verbs"_L1) + options.text("Options"_L1) +
-         u"\nThe exit status is 0 when all went well, 1 when a theme could not be read or "
-         u"something\n"
-         "else not be done, 2 for wrong usage.\n"_s;
+         u"\nThe exit status is 0 when all went well, 1 when a theme could not be read, something\n"
+         "else not be done, or check has findings, 2 for wrong usage.\n"_s;
 }
 
 QString helpOf(const Verb& verb) {
@@ -62,7 +61,7 @@ QString helpOf(const Verb& verb) {
   return u"Usage: thmtool %1 %2%3\n\n%4%5.\n"_s.arg(
              verb.name, verb.words, verb.options.empty() ? QString() : u" [options]"_s,
              summary.left(1).toUpper(), summary.mid(1)) +
-         options.text("Options"_L1);
+         verb.more + options.text("Options"_L1);
 }
 
 }  // namespace quillane

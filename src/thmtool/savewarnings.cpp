@@ -3,10 +3,9 @@
 #include "thmtool/savewarnings.h"
 
 #include "theme/archive_reader.h"
+#include "theme/check.h"
 #include "theme/codepage.h"
-#include "theme/contrast.h"
 #include "theme/load.h"
-#include "theme/parsexml.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -19,25 +18,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the name of an image cannot hold: it would end the value or name no file.
-constexpr QLatin1String kMisread("\"\\*?");
-
 QString nameInTheme(const QString& image) {
   return QFileInfo(image).fileName().toLower();
 }
 
 /// Whether a reader finds an image by its name in the XML.
 bool canBeNamed(const QString& name) {
-  return name != "xxx.gif"_L1 && memberName(toCodePage(name)) == name &&
-         std::none_of(name.begin(), name.end(), [](QChar sign) { return kMisread.contains(sign); });
-}
-
-QStringList colorTroubles(const ThemeValues& values) {
-  QStringList close;
-  for (const int index : closeColors(values))
-    close += values.schema().colors[static_cast<std::size_t>(index)].element;
-  if (close.isEmpty()) return {};
-  return {u"Colours that are too close to tell apart: %1."_s.arg(close.join(", "_L1))};
+  return name != kNoImage && memberName(toCodePage(name)) == name && !namesNoFile(name) &&
+         !name.contains(u'"');
 }
 
 /// Images that the archive cannot tell apart or that the XML cannot name.
@@ -82,9 +70,8 @@ class ReadBack {
  private:
   void compare(QLatin1String element, const QString& meant) {
     // What a reader would complain of shows in what it reads.
-    const QString read = ParseXML(QString(element), text_, [](const Fault&) {});
-    if (read != meant)
-      troubles_ += u"\"%1\" will be read as \"%2\" and not as \"%3\"."_s.arg(element, read, meant);
+    const QString trouble = misreading(element, text_, meant, [](const Fault&) {});
+    if (!trouble.isEmpty()) troubles_ += trouble;
   }
 
   QString text_;
@@ -94,7 +81,7 @@ class ReadBack {
 }  // namespace
 
 QStringList saveWarnings(const ThemeValues& values, const ThemeTagTexts& tags, const QString& xml) {
-  return colorTroubles(values) + imageTroubles(values) + ReadBack(xml).troubles(values, tags);
+  return imageTroubles(values) + ReadBack(xml).troubles(values, tags);
 }
 
 }  // namespace quillane

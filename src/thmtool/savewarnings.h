@@ -10,8 +10,8 @@
 
 namespace quillane {
 
-/// What is odd about a theme that is going to be saved, a line each: colours that are too close,
-/// images that cannot be seen, and what will not be read from `xml` as it is in the values.
+/// What a theme that is going to be saved will not be as it was meant, a line each: images that
+/// cannot be seen, and what will not be read from `xml` as it is in the values.
 QStringList saveWarnings(const ThemeValues& values, const ThemeTagTexts& tags, const QString& xml);
 
 }  // namespace quillane

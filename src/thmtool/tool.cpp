@@ -86,8 +86,12 @@ int runWithoutVerb(const QString& word, const Streams& streams) {
 }  // namespace
 
 QString printable(QString text) {
+  constexpr QChar::Category kSteering[] = {QChar::Other_Control, QChar::Other_Format,
+                                           QChar::Separator_Line, QChar::Separator_Paragraph};
   for (QChar& sign : text)
-    if (sign.category() == QChar::Other_Control) sign = u'?';
+    if (std::find(std::begin(kSteering), std::end(kSteering), sign.category()) !=
+        std::end(kSteering))
+      sign = u'?';
   return text;
 }
 

@@ -13,7 +13,7 @@ namespace quillane {
 /// How a run of the tool ends; the numbers are its exit status.
 enum ExitStatus : int {
   AllWell = 0,
-  NotDone = 1,     ///< Something could not be read, painted or written.
+  NotDone = 1,     ///< Something could not be read, painted or written, or `check` has findings.
   WrongUsage = 2,  ///< The command line makes no sense.
 };
 
@@ -38,8 +38,8 @@ class Streams {
   QString speaker_;
 };
 
-/// The text with its control characters replaced, so that a name made by a stranger cannot steer a
-/// terminal.
+/// The text with the characters replaced that steer a terminal, begin a line or turn the direction
+/// of writing, so that a name made by a stranger does none of it.
 QString printable(QString text);
 
 /// Ends a verb whose command line makes no sense; `text` says what is wrong with it.

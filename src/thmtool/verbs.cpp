@@ -7,7 +7,7 @@ namespace quillane {
 namespace {
 
 constexpr const Verb* kVerbs[] = {
-    &kRenderVerb, &kInfoVerb, &kXmlVerb,  &kUnpackVerb,
+    &kRenderVerb, &kInfoVerb, &kXmlVerb,  &kCheckVerb,     &kUnpackVerb,
     &kPackVerb,   &kNewVerb,  &kEditVerb, &kThumbnailVerb,
 };
 

@@ -32,11 +32,13 @@ struct Verb {
   std::span<const OptionRow> options;
   /// Returns an `ExitStatus`; may throw `UsageError`, `UnreadableTheme` and `Fault`.
   int (*run)(const QCommandLineParser& given, const Streams& streams);
+  QLatin1String more{};  ///< What its help says below the summary, in lines.
 };
 
 extern const Verb kRenderVerb;
 extern const Verb kInfoVerb;
 extern const Verb kXmlVerb;
+extern const Verb kCheckVerb;
 extern const Verb kUnpackVerb;
 extern const Verb kPackVerb;
 extern const Verb kNewVerb;

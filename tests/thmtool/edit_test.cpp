@@ -53,8 +53,9 @@ TEST_F(Edit, NewWritesDefaultsAndChanges) {
             "my new.xml <" + QByteArray::number(qsizetype(xml.size())) + '>');
 
   EXPECT_EQ(runTool({"new", "3g", path("b.thm"), "--no-index", "--no-tags", "--tag",
-                     "Theme_name=Tea", "--set", "Title="}),
-            kQuiet);
+                     "Theme_name=Tea", "--set", "Title="})
+                .status,
+            AllWell);
   EXPECT_EQ(membersOf("b.thm"), "b.xml");
   const QByteArray threeG = unpacked("b.thm", "b.xml");
   EXPECT_FALSE(threeG.contains('\n'));

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Quillane developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/picturefacts.h"
+
+#include "preview/picture.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+#include <gif_lib.h>
+#include <memory>
+#include <vector>
+
+namespace quillane {
+
+namespace {
+
+struct GifRelease {
+  void operator()(GifFileType* gif) const { DGifCloseFile(gif, nullptr); }
+};
+
+/// Walks the records of a GIF as far as they tell something: up to its second frame or its end.
+class GifWalk {
+ public:
+  GifWalk(const QByteArray& bytes, PictureFacts& facts)
+      : rest_(bytes), facts_(facts), gif_(DGifOpen(this, &GifWalk::read, nullptr)) {}
+  Q_DISABLE_COPY(GifWalk)
+
+  void run() {
+    while (gif_ && walkRecord()) {
+    }
+    facts_.isDamaged = !isComplete_;
+  }
+
+ private:
+  static int read(GifFileType* gif, GifByteType* bytes, int count) {
+    auto& rest = static_cast<GifWalk*>(gif->UserData)->rest_;
+    const auto taken = std::min<qsizetype>(count, rest.size());
+    std::memcpy(bytes, rest.data(), static_cast<std::size_t>(taken));
+    rest = rest.sliced(taken);
+    return static_cast<int>(taken);
+  }
+
+  /// False at the end, and where the rest cannot be read or does not matter.
+  bool walkRecord() {
+    GifRecordType type = UNDEFINED_RECORD_TYPE;
+    if (DGifGetRecordType(gif_.get(), &type) != GIF_OK) return false;
+    switch (type) {
+      case EXTENSION_RECORD_TYPE:
+        return skipExtension();
+      case IMAGE_DESC_RECORD_TYPE:
+        return walkFrame();
+      case TERMINATE_RECORD_TYPE:
+        isComplete_ = hasFrame_;
+        return false;
+      default:
+        return false;
+    }
+  }
+
+  bool skipExtension() {
+    int code = 0;
+    GifByteType* block = nullptr;
+    bool isRead = DGifGetExtension(gif_.get(), &code, &block) == GIF_OK;
+    while (isRead && block != nullptr)
+      isRead = DGifGetExtensionNext(gif_.get(), &block) == GIF_OK;
+    return isRead;
+  }
+
+  bool walkFrame() {
+    if (hasFrame_) {
+      facts_.isAnimated = isComplete_ = true;
+      return false;
+    }
+    if (DGifGetImageDesc(gif_.get()) != GIF_OK) return false;
+    const GifImageDesc& frame = gif_->Image;
+    facts_.isInterlaced = frame.Interlace;
+    if (facts_.size.isEmpty()) facts_.size = {frame.Width, frame.Height};
+    hasFrame_ = frame.Width > 0 && frame.Height > 0 && !isTooLarge({frame.Width, frame.Height});
+    std::vector<GifPixelType> line(static_cast<std::size_t>(frame.Width));
+    for (int y = 0; hasFrame_ && y < frame.Height; ++y)
+      if (DGifGetLine(gif_.get(), line.data(), frame.Width) != GIF_OK) return false;
+    return hasFrame_;
+  }
+
+  QByteArrayView rest_;
+  PictureFacts& facts_;
+  std::unique_ptr<GifFileType, GifRelease> gif_;
+  bool hasFrame_ = false;
+  bool isComplete_ = false;
+};
+
+/// The marker bytes of a JPEG that matter here.
+enum Marker : uchar {
+  FirstFrame = 0xC0,  ///< Baseline; the next one differs only in its number of bits.
+  HuffmanTables = 0xC4,
+  Reserved = 0xC8,
+  ArithmeticTables = 0xCC,
+  LastFrame = 0xCF,
+  Scan = 0xDA,
+};
+
+bool isFrame(uchar marker) {
+  return marker >= FirstFrame && marker <= LastFrame && marker != HuffmanTables &&
+         marker != Reserved && marker != ArithmeticTables;
+}
+
+/// Takes from a frame's segment what it tells; the first two bytes are the segment's length.
+void takeFrame(uchar marker, QByteArrayView segment, PictureFacts& facts) {
+  constexpr qsizetype kShortest = 8;
+  if (segment.size() < kShortest) return;
+  facts.size = QSize(qFromBigEndian<quint16>(segment.data() + 5),
+                     qFromBigEndian<quint16>(segment.data() + 3));
+  facts.isBaseline = marker <= FirstFrame + 1;
+}
+
+/// Walks the segments of a JPEG up to its pixels; false when they do not come.
+bool walkSegments(QByteArrayView rest, PictureFacts& facts) {
+  rest = rest.sliced(2);
+  while (rest.size() >= 4 && rest[0] == '\xFF') {
+    const auto marker = static_cast<uchar>(rest[1]);
+    rest = rest.sliced(marker == 0xFF ? 1 : 2);
+    if (marker == 0xFF) continue;  // Filling.
+    const qsizetype length = qFromBigEndian<quint16>(rest.data());
+    if (length < 2 || length > rest.size()) return false;
+    if (isFrame(marker)) takeFrame(marker, rest.first(length), facts);
+    rest = rest.sliced(length);
+    if (marker == Scan) return rest.lastIndexOf(QByteArrayView("\xFF\xD9")) >= 0;
+  }
+  return false;
+}
+
+}  // namespace
+
+PictureForm pictureForm(const QByteArray& start) {
+  if (gifScreen(start)) return PictureForm::Gif;
+  return start.startsWith("\xFF\xD8\xFF") ? PictureForm::Jpeg : PictureForm::Other;
+}
+
+std::optional<QSize> gifScreen(const QByteArray& start) {
+  constexpr qsizetype kHeader = 10;
+  const bool isGif = start.startsWith("GIF87a") || start.startsWith("GIF89a");
+  if (!isGif || start.size() < kHeader) return std::nullopt;
+  return QSize(qFromLittleEndian<quint16>(start.constData() + 6),
+               qFromLittleEndian<quint16>(start.constData() + 8));
+}
+
+PictureFacts pictureFacts(const QByteArray& bytes) {
+  PictureFacts facts{.form = pictureForm(bytes)};
+  if (facts.form == PictureForm::Gif) {
+    facts.size = *gifScreen(bytes);
+    GifWalk(bytes, facts).run();
+  } else if (facts.form == PictureForm::Jpeg) {
+    facts.isDamaged = !walkSegments(bytes, facts) || decodePicture(bytes).isNull();
+  }
+  return facts;
+}
+
+}  // namespace quillane
