@@ -29,10 +29,14 @@ namespace quillane {
 namespace {
 
 constexpr const char* kOld = "what was there before";
+constexpr const char* kNew = "what comes in its place";
 constexpr QSize kScreen2{101, 80};
 
-/// The archive without the times of its members and what depends on them.
+/// The bytes of a file without what comes from the clock: in an archive the times of its members
+/// and what depends on them, of a picture all but its size.
 QByteArray timeless(QByteArray tar) {
+  const bool isPicture = tar.startsWith("\x89PNG") && tar.chopped(4).endsWith("IEND");
+  if (isPicture) return "picture " + tar.mid(16, 8);
   constexpr qsizetype block = 512;
   for (qsizetype at = 0; at + block <= tar.size() && tar[at] != '\0';) {
     const qsizetype size = tar.mid(at + 124, 11).toLongLong(nullptr, 8);
@@ -162,7 +166,7 @@ std::vector<SavePath> makePaths() {
          return told([&] { packArchive(at.path("t/a.thm"), {at.path("in/back.gif")}); });
        }},
       {"text", "a.xml",
-       [](SaveFolders& at) { return told([&] { saveFile(at.path("t/a.xml"), "<new/>"); }); }},
+       [](SaveFolders& at) { return told([&] { saveFile(at.path("t/a.xml"), kNew); }); }},
       {"palette", "a.pal",
        [](SaveFolders& at) {
          return told([&] { savePalette(at.path("t/a.pal"), builtInPalette()); });
@@ -184,14 +188,14 @@ std::vector<SavePath> makePaths() {
                  at.write("t/x.ini", "[%General]\nOperatorName=Ann\n"), [](const Fault&) {});
            }},
       {"broken settings put aside", "x.ini.broken", keepBrokenSettings,
-       [](SaveFolders& at) { at.write("t/x.ini", "no settings"); }},
+       [](SaveFolders& at) { at.write("t/x.ini", kNew); }},
       {"copy", "a.thm", [](SaveFolders& at) { return operate(at, FileVerb::Copy); }},
       {"move", "a.thm", [](SaveFolders& at) { return operate(at, FileVerb::Move); },
-       [](SaveFolders& at) { at.write("in/a.thm", "moved"); }},
+       [](SaveFolders& at) { at.write("in/a.thm", kNew); }},
       {.name = "move to another disk",
        .target = "a.thm",
        .save = [](SaveFolders& at) { return operate(at, FileVerb::Move); },
-       .prepare = [](SaveFolders& at) { at.write("in/a.thm", "moved"); },
+       .prepare = [](SaveFolders& at) { at.write("in/a.thm", kNew); },
        .crossesDisks = true},
       {"another name", "a.thm",
        [](SaveFolders& at) {

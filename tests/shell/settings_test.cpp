@@ -28,10 +28,11 @@ TEST_F(Settings, ReadsFlagsAndNumbersFromTexts) {
 
 TEST_F(Settings, KeepsTextsInAFile) {
   FaultLog log;
-  const QString file = path("config/Quillane 3G.ini");
+  int count = 0;
   for (const char* text :
        {"a, b; \"c\"", "@Invalid()", "@@", " blanks ", "a\tb\r\nc", "C:\\x\\", "\\x41",
         "\u00e9\u7fe0", "50%20=[x]", "#", ";", "", "\"", "/home/ann/My Themes/"}) {
+    const QString file = path("config/Quillane %1.ini").arg(++count);
     IniSettings(file, log.reporter()).write(setting::OperatorName, text);
     const IniSettings again(file, log.reporter());
     EXPECT_EQ(again.read(setting::OperatorName), text);
