@@ -21,7 +21,8 @@ DeedHook& hook() {
   return now;
 }
 
-bool isInside = false;
+Flushes flushes = Flushes::Pretended;
+thread_local bool isInside = false;
 std::array<bool, 1024> isUnsafe{};
 
 /// Keeps what the hook itself does from being told.
@@ -80,13 +81,13 @@ ssize_t writes(Write* real, int file, const void* bytes, std::size_t size, Offse
   return rest < 0 ? rest : half + rest;
 }
 
-int flushes(int (*real)(int), int file) {
+int flush(int (*real)(int), int file) {
   if (!isWatched()) return real(file);
   const bool folder = isFile(file, S_IFDIR);
   if (!folder && !isWritable(file)) return real(file);
   if (!admits(folder ? Deed::FlushFolder : Deed::Flush, file)) return -1;
   isUnsafe.at(static_cast<std::size_t>(file)) = false;
-  return 0;
+  return flushes == Flushes::Pretended ? 0 : real(file);
 }
 
 int closes(int (*real)(int), int file) {
@@ -100,8 +101,9 @@ int closes(int (*real)(int), int file) {
 
 }  // namespace
 
-void interpose(DeedHook next) {
+void interpose(DeedHook next, Flushes how) {
   hook() = std::move(next);
+  flushes = how;
 }
 
 }  // namespace quillane
@@ -165,10 +167,10 @@ extern "C" ssize_t pwrite64(int file, const void* bytes, std::size_t size, off64
   return quillane::writes(REAL(pwrite64), file, bytes, size, offset);
 }
 extern "C" int fsync(int file) {
-  return quillane::flushes(REAL(fsync), file);
+  return quillane::flush(REAL(fsync), file);
 }
 extern "C" int fdatasync(int file) {
-  return quillane::flushes(REAL(fdatasync), file);
+  return quillane::flush(REAL(fdatasync), file);
 }
 extern "C" int close(int file) {
   return quillane::closes(REAL(close), file);

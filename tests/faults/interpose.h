@@ -14,9 +14,11 @@ enum class Deed { Open, MakeFolder, Write, Flush, FlushFolder, Name, Facts, Clos
 /// fails, 0 to let it be made.
 using DeedHook = std::function<int(Deed deed, bool unsafe)>;
 
+/// Whether what is flushed goes to the disk, or only counts as if it had.
+enum class Flushes { Pretended, Real };
+
 /// Puts a hook between this process and the calls of the C library that change files; an empty one
-/// takes it away. While there is one, nothing is really flushed. What a hook does itself is not
-/// told, nor is what goes to pipes and terminals.
-void interpose(DeedHook hook);
+/// takes it away. What a hook does itself is not told, nor is what goes to pipes and terminals.
+void interpose(DeedHook hook, Flushes flushes = Flushes::Pretended);
 
 }  // namespace quillane
