@@ -263,7 +263,9 @@ TEST_F(Faults, VanishingTargetsAreTold) {
          QFile::link(path("nowhere/x"), path(target));
        }}};
   for (const SavePath& row : savePaths()) {
-    const auto [before, after] = oldAndNew(row);
+    const auto both = oldAndNew(row);
+    const Content& before = both.first;
+    const Content& after = both.second;
     const QString target = "t/" + row.target;
     // What others do to a file that is given a name or to one of many is theirs.
     if (row.extracts || row.several || !after.contains(target)) continue;
