@@ -5,6 +5,7 @@
 #include "shell/fileoperation_platform.h"
 #include "shell/files.h"
 #include "theme/files.h"
+#include "theme/files_platform.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -4,6 +4,7 @@
 
 #include "shell/fileoperation.h"
 #include "theme/fault.h"
+#include "theme/files_platform.h"
 
 #include <QFile>
 
@@ -23,24 +24,9 @@ namespace {
 
 constexpr mode_t kPermissions = 0777;
 
-std::errc asError(int error) {
-  return error == EDQUOT ? std::errc::no_space_on_device : static_cast<std::errc>(error);
-}
-
 /// The outcome of a system call that returns 0 on success.
 std::errc outcome(int returned) {
-  return returned == 0 ? std::errc{} : asError(errno);
-}
-
-/// Whether a disk, rather than this file, is why a call fails: FAT has no permissions, some
-/// network disks cannot flush.
-bool isUnknownToDisk(std::errc error) {
-  return error == std::errc::operation_not_permitted || error == std::errc::not_supported ||
-         error == std::errc::function_not_supported || error == std::errc::invalid_argument;
-}
-
-std::errc unlessUnknownToDisk(std::errc error) {
-  return isUnknownToDisk(error) ? std::errc{} : error;
+  return returned == 0 ? std::errc{} : lastError();
 }
 
 struct Release {
@@ -60,7 +46,7 @@ std::errc renameFresh(const QString& from, const QString& to) {
   // This file system only knows the rename that replaces.
   struct stat found;
   if (::lstat(target.constData(), &found) == 0) return std::errc::file_exists;
-  return errno == ENOENT ? renameOver(from, to) : asError(errno);
+  return errno == ENOENT ? renameOver(from, to) : lastError();
 }
 
 std::errc renameOver(const QString& from, const QString& to) {
@@ -75,20 +61,16 @@ std::errc appendBytes(int file, QByteArrayView bytes) {
   while (!bytes.isEmpty()) {
     const ssize_t written = ::write(file, bytes.data(), static_cast<std::size_t>(bytes.size()));
     if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return asError(errno);
+    if (written < 0) return lastError();
     bytes = bytes.sliced(written);
   }
   return {};
 }
 
-std::errc flushFile(int file) {
-  return unlessUnknownToDisk(outcome(::fsync(file)));
-}
-
 std::errc flushFolder(const QString& folder) {
   const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
   // One may write into a folder without being allowed to list it.
-  if (file < 0) return errno == EACCES ? std::errc{} : asError(errno);
+  if (file < 0) return errno == EACCES ? std::errc{} : lastError();
   const std::errc error = flushFile(file);
   ::close(file);
   return error;
@@ -96,7 +78,7 @@ std::errc flushFolder(const QString& folder) {
 
 std::errc copyPermissionsAndTime(int from, int to) {
   struct stat facts;
-  if (::fstat(from, &facts) != 0) return asError(errno);
+  if (::fstat(from, &facts) != 0) return lastError();
   const std::errc error = unlessUnknownToDisk(outcome(::fchmod(to, facts.st_mode & kPermissions)));
   if (error != std::errc{}) return error;
   const timespec times[2] = {{0, UTIME_OMIT}, facts.st_mtim};

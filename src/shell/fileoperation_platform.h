@@ -24,9 +24,6 @@ std::errc removeFile(const QString& path);
 /// Writes bytes at the end of an open file.
 std::errc appendBytes(int file, QByteArrayView bytes);
 
-/// Brings an open file's bytes to the disk.
-std::errc flushFile(int file);
-
 /// Brings a folder's list of names to the disk, where it lets us.
 std::errc flushFolder(const QString& folder);
 

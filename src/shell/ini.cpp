@@ -106,19 +106,25 @@ QString ReadIni(const QString& section, const QString& key, const QString& stand
   return iniValue(text, section, key, standard);
 }
 
-void WriteIni(const QString& section, const QString& key, const QString& value,
-              const QString& file) {
+QString withIniValue(const QString& text, const QString& section, const QString& key,
+                     const QString& value) {
   QStringList lines;
-  if (FileExists(file)) lines = fromCodePage(readFile(file)).split(u'\n');
+  if (!text.isEmpty()) lines = text.split(u'\n');
   // What stands behind the last line end is a line only when it is more than nothing.
   if (!lines.isEmpty() && lines.last().isEmpty())
     lines.removeLast();
   else if (!lines.isEmpty())
     lines.last() += u'\r';
+  return withEntry(lines, section, key, key + u'=' + value + u'\r').join(u'\n') + u'\n';
+}
+
+void WriteIni(const QString& section, const QString& key, const QString& value,
+              const QString& file) {
+  QString text;
+  if (FileExists(file)) text = fromCodePage(readFile(file));
   const QString folder = SplitPath(file, PathPart::Folder);
   if (!QDir().mkpath(folder)) throw noPermission("make"_L1, folder);
-  lines = withEntry(lines, section, key, key + u'=' + value + u'\r');
-  saveFile(file, toCodePage(QString(lines.join(u'\n') + u'\n')));
+  saveFile(file, toCodePage(withIniValue(text, section, key, value)));
 }
 
 }  // namespace quillane

@@ -17,6 +17,11 @@ QString ReadIni(const QString& section, const QString& key, const QString& stand
 void WriteIni(const QString& section, const QString& key, const QString& value,
               const QString& file);
 
+/// The text of an INI file with a value where `iniValue` finds it, every line ended by CR LF that
+/// is new.
+QString withIniValue(const QString& text, const QString& section, const QString& key,
+                     const QString& value);
+
 /// What `ReadIni` gives, from the text of an INI file that is read already, for whoever asks for
 /// many values.
 QString iniValue(const QString& text, const QString& section, const QString& key,

@@ -15,6 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qint64 kLargestFile = qint64{1024} * 1024;
+
 /// A text of a language file and the engine property that takes it.
 template <typename Engine>
 struct LanguageText {
@@ -105,6 +107,12 @@ void readPhoneState(Engine& engine, const SettingsStore& settings, const FaultRe
 QString languageFile(const QString& path, const FaultReporter& report) {
   if (!FileExists(path)) return {};
   try {
+    if (fileSize(path) > kLargestFile) {
+      report(Fault(FaultNumber::BadCall,
+                   u"The language file \"%1\" has more than a mebibyte; the standard texts are "
+                   "shown."_s.arg(path)));
+      return {};
+    }
     return fromCodePage(readFile(path));
   } catch (const Fault&) {
     report(Fault(

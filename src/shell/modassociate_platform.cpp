@@ -192,7 +192,8 @@ void renewIndexes() {
     process.waitForFinished();
   }
   // Icons are looked for anew when the time of their folder changes.
-  QTemporaryFile(home.filePath(kIconFolder + ".quillane-XXXXXX"_L1)).open();
+  QTemporaryFile passing(home.filePath(kIconFolder + ".quillane-XXXXXX"_L1));
+  if (passing.open()) passing.fileName();  // It has no place in the folder until it is asked for.
 }
 
 }  // namespace

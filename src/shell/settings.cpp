@@ -2,16 +2,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/settings.h"
 
+#include "shell/files.h"
+#include "shell/ini.h"
 #include "theme/files.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace quillane {
 
@@ -40,7 +45,7 @@ bool isSettingsText(const QByteArray& text) {
                      [](const QByteArray& line) { return isSettingsLine(line.trimmed()); });
 }
 
-// The store drops what it cannot read when it next writes the file.
+// Lines that are no settings go when the file is next written.
 void keepWhenBroken(const QString& file, const FaultReporter& report) {
   QFile ini(file);
   if (!ini.open(QIODevice::ReadOnly)) return;
@@ -56,6 +61,33 @@ void keepWhenBroken(const QString& file, const FaultReporter& report) {
   report(Fault(FaultNumber::DeviceFault,
                u"The settings file \"%1\" holds lines that are no settings. %2 "
                "What could be read is in force."_s.arg(file, outcome)));
+}
+
+/// The text as the reading store takes it for a value.
+QString iniText(const QString& text) {
+  static const QRegularExpression kPlain(u"\\A([\\w/.:%+-]([\\w/.:%+ -]*[\\w/.:%+-])?)?\\z"_s);
+  if (kPlain.match(text).hasMatch()) return text;
+  constexpr std::pair<char16_t, QLatin1String> kEscapes[] = {
+      {u'\\', "\\\\"_L1}, {u'"', "\\\""_L1}, {u'\n', "\\n"_L1}, {u'\r', "\\r"_L1}};
+  // What begins with this sign is another type's.
+  QString value = text.startsWith(u'@') ? u'@' + text : text;
+  for (const auto& [letter, escape] : kEscapes)
+    value.replace(letter, escape);
+  return u'"' + value + u'"';
+}
+
+/// The text of a settings file with values by section and key, as UTF-8 in UTF-8 out.
+QByteArray withSettings(const QByteArray& bytes, const QMap<QString, QString>& values) {
+  QList<QByteArray> lines = bytes.split('\n');
+  lines.removeIf([](const QByteArray& line) { return !isSettingsLine(line.trimmed()); });
+  QString text = QString::fromUtf8(lines.join('\n'));
+  for (auto value = values.begin(); value != values.end(); ++value) {
+    const QString section = value.key().section(u'/', 0, 0);
+    // Without the sign, the section would be that of keys without one.
+    text = withIniValue(text, section == "General"_L1 ? u"%General"_s : section,
+                        value.key().section(u'/', 1), iniText(*value));
+  }
+  return text.remove(u'\r').toUtf8();
 }
 
 double numberOf(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {
@@ -80,7 +112,7 @@ void MemorySettings::write(const Setting& setting, const QString& value) {
   values_.insert(nameOf(setting), value);
 }
 
-IniSettings::IniSettings(const QString& file, const FaultReporter& report) {
+IniSettings::IniSettings(const QString& file, const FaultReporter& report) : file_(file) {
   keepWhenBroken(file, report);
   settings_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
   if (settings_->status() == QSettings::AccessError)
@@ -89,33 +121,38 @@ IniSettings::IniSettings(const QString& file, const FaultReporter& report) {
                  "in force; allow reading and writing it and start again."_s.arg(file)));
 }
 
-IniSettings::~IniSettings() = default;
+IniSettings::~IniSettings() {
+  skipOnFault([this] { flush(); });
+}
 
-// The store writes its section General as [%General]; one that a person wrote as [General] holds
+// The store knows the section General as [%General]; one that a person wrote as [General] holds
 // keys without a section to it.
 QString IniSettings::read(const Setting& setting) const {
   const QString name = nameOf(setting);
+  const auto written = written_.find(name);
+  if (written != written_.end()) return *written;
   const bool isBare = QLatin1String(setting.section) == "General"_L1 && !settings_->contains(name);
   return textOf(settings_->value(isBare ? QString(QLatin1String(setting.key)) : name,
                                  QLatin1String(setting.standard)));
 }
 
 void IniSettings::write(const Setting& setting, const QString& value) {
-  settings_->setValue(nameOf(setting), value);
+  written_.insert(nameOf(setting), value);
+  isKept_ = false;
 }
 
 void IniSettings::flush() {
-  // A store that has failed once says so for ever. A new one takes over what was not written, so it
-  // has to be there before the old one goes.
-  if (settings_->status() == QSettings::AccessError) {
-    auto fresh = std::make_unique<QSettings>(settings_->fileName(), QSettings::IniFormat);
-    settings_ = std::move(fresh);
+  if (isKept_) return;
+  try {
+    const QByteArray before = FileExists(file_) ? readFile(file_) : QByteArray();
+    QDir().mkpath(SplitPath(file_, PathPart::Folder));
+    saveFile(file_, withSettings(before, written_));
+  } catch (const Fault& fault) {
+    throw Fault(fault.number(),
+                u"The settings file \"%1\" cannot be written, so the settings and the folders in "
+                "use are not kept. %2"_s.arg(file_, fault.description()));
   }
-  settings_->sync();
-  if (settings_->status() != QSettings::AccessError) return;
-  throw Fault(FaultNumber::NoPermission,
-              u"The settings file \"%1\" cannot be written, so the settings and "
-              "the folders in use are not kept."_s.arg(settings_->fileName()));
+  isKept_ = true;
 }
 
 int numberSetting(const SettingsStore& store, const Setting& setting, const FaultReporter& report) {

@@ -5,6 +5,7 @@
 #include "theme/fault.h"
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 
 #include <memory>
@@ -87,8 +88,9 @@ class MemorySettings : public SettingsStore {
 /// The settings of the user in an INI file, one group a section.
 class IniSettings : public SettingsStore {
  public:
-  /// `file` is made at the first write. One with lines that are no settings is kept beside it,
-  /// under its name and ".broken"; `report` hears of that and of a file that cannot be read.
+  /// `file` is made at the first flush, which the end of the object is, too. One with lines that
+  /// are no settings is kept beside it, under its name and ".broken"; `report` hears of that and of
+  /// a file that cannot be read.
   IniSettings(const QString& file, const FaultReporter& report);
   ~IniSettings() override;
 
@@ -97,7 +99,10 @@ class IniSettings : public SettingsStore {
   void flush() override;
 
  private:
-  std::unique_ptr<QSettings> settings_;
+  QString file_;
+  std::unique_ptr<const QSettings> settings_;  ///< Reads alone: it writes without noticing faults.
+  QMap<QString, QString> written_;             ///< By section and key, with "/" in between.
+  bool isKept_ = true;                         ///< What was written is in the file.
 };
 
 /// A setting as a 16-bit number, rounded half to even. A text that is none is reported, and the

@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace quillane {
 
@@ -56,9 +57,9 @@ int FolderSink::write(qint64 offset, QByteArrayView bytes) {
 int FolderSink::end() {
   const timespec times[2] = {{0, UTIME_NOW}, {static_cast<time_t>(modified_), 0}};
   const bool complete = ::ftruncate(file_, size_) == 0 && ::futimens(file_, times) == 0;
-  const int code = complete ? Success : codeOf(errno, WriteFailed);
-  closeFile();
-  return code;
+  if (!complete) return codeOf(errno, WriteFailed);
+  // Network disks may tell only now that they have no room.
+  return ::close(std::exchange(file_, -1)) == 0 ? Success : codeOf(errno, WriteFailed);
 }
 
 void FolderSink::closeFile() {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "theme/files.h"
 
+#include "theme/files_platform.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -21,7 +23,7 @@ Fault fileFault(FaultNumber number, const QString& words, const QString& path,
   return Fault(number, words.arg(QDir::toNativeSeparators(path)), line);
 }
 
-Fault unwritable(const QString& path, qint64 size) {
+Fault unwritable(const QString& path, qint64 size, const QString& reason) {
   const QString folder = QFileInfo(path).absolutePath();
   const QFileInfo info(folder);
   if (!info.isDir()) return folderNotFound(folder);
@@ -31,7 +33,8 @@ Fault unwritable(const QString& path, qint64 size) {
   const QStorageInfo storage(folder);
   if (storage.isValid() && storage.bytesTotal() > 0 && storage.bytesAvailable() < size)
     return noRoom("write"_L1, path);
-  return fileFault(FaultNumber::DeviceFault, u"File \"%1\" could not be written."_s, path);
+  return Fault(FaultNumber::DeviceFault, u"File \"%1\" could not be written: %2."_s.arg(
+                                             QDir::toNativeSeparators(path), reason));
 }
 
 template <typename Read>
@@ -91,10 +94,16 @@ void saveFile(const QString& path, const QByteArray& bytes) {
   // A rename would put a file in the place of a device or a pipe.
   if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) throw irreplaceable(path);
   QSaveFile file(path);
-  // The commit alone does not notice that the last buffer could not be written.
-  const bool saved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-                     file.flush() && file.commit();
-  if (!saved) throw unwritable(path, bytes.size());
+  // The commit alone notices neither a last buffer that could not be written nor a disk that could
+  // not keep the bytes.
+  const bool written =
+      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+  const std::errc lost = written ? flushFile(file.handle()) : std::errc{};
+  if (lost == std::errc::no_space_on_device) throw noRoom("write"_L1, path);
+  if (lost != std::errc{})
+    throw unwritable(path, bytes.size(),
+                     QString::fromLocal8Bit(std::make_error_code(lost).message()));
+  if (!written || !file.commit()) throw unwritable(path, bytes.size(), file.errorString());
 }
 
 qint64 fileSize(const QString& path) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browserfixture.h"
+#include "support/hostilethemes.h"
 
 #include <QFileInfo>
 #include <QTest>
@@ -165,6 +166,36 @@ TEST_F(Selection, ShowsAFaultOnceInALoad) {
   dialogs.expectMessage("*");
   openAt(0);
   EXPECT_TRUE(shown("picPreview_1"));
+}
+
+/// Takes every message for read.
+class PatientDialogs : public ScriptedDialogs {
+ public:
+  void message(QWidget*, MessageIcon, const QString&, const QString&) override { ++messages; }
+  int messages = 0;
+};
+
+TEST_F(Selection, WalksOverHostileThemes) {
+  const std::vector<HostileTheme> themes = hostileThemes();
+  PatientDialogs patient;
+  for (std::size_t at = 0; at < themes.size(); ++at)
+    write(QString("themes/%1.thm").arg(at, 3, 10, QChar('0')), themes[at].bytes);
+  addTheme("good.thm", {}, true);
+  browser = std::make_unique<frmBrowser>(state, settings, patient, world, QString());
+  for (int at = 0; at < static_cast<int>(themes.size()); ++at) {
+    const HostileTheme& theme = themes[static_cast<std::size_t>(at)];
+    SCOPED_TRACE(theme.name);
+    const int before = patient.messages;
+    select(at);
+    EXPECT_EQ(statusIcon() == 'E', *theme.error != '\0');
+    EXPECT_EQ(tip().left(static_cast<qsizetype>(qstrlen(theme.error))), theme.error);
+    EXPECT_LE(patient.messages - before, 2) << "each text is told once";
+  }
+  select(static_cast<int>(themes.size()));
+  EXPECT_EQ(statusIcon(), '-');
+  EXPECT_TRUE(painted("picStandby2"));
+  EXPECT_EQ(listOf("temp"), QStringList("theme.xml"));
+  EXPECT_FALSE(QFile::exists(path("escaped.xml")));
 }
 
 }  // namespace

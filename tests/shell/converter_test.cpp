@@ -4,7 +4,6 @@
 
 #include "preview/picture.h"
 #include "shell/quantize.h"
-#include "support/hindrance.h"
 #include "support/tempfolder.h"
 
 #include <QSet>
@@ -122,14 +121,6 @@ TEST_F(Converter, LetsTheEndingDecideWhereOneConverterServes) {
       {PictureKind::Bmp, "a.png", PictureKind::Bmp}};
   for (const auto& [offered, name, kind] : cases)
     EXPECT_EQ(convertedKind(offered, name), kind) << name;
-}
-
-TEST_F(Converter, LeavesTheOldFileWhenItFails) {
-  write("old.gif", "precious");
-  const FileSizeLimit limit(100);
-  EXPECT_THROW(savePicture(photo(), path("old.gif"), PictureKind::Gif, {}), Fault);
-  EXPECT_EQ(read("old.gif"), "precious");
-  EXPECT_EQ(listOf("").size(), 1);
 }
 
 }  // namespace

@@ -253,22 +253,6 @@ TEST_F(FileOperation, ObeysPermissions) {
   EXPECT_EQ(listOf("to") + listOf("open"), QStringList{"b"});
 }
 
-TEST_F(FileOperation, LeavesTheOldFileOnAFullDisk) {
-  const SmallDisk disk(path("to"));
-  if (!disk.isMounted()) GTEST_SKIP() << "no second file system here";
-  write("a", QByteArray(100'000, 'x'));
-  write("to/a", "old");
-  for (const FileVerb verb : {FileVerb::Copy, FileVerb::Move}) {
-    watcher.answers = {Overwrite::Replace};
-    watcher.faults.clear();
-    EXPECT_EQ(run(verb, {"a"}), "failed ok");
-    EXPECT_TRUE(watcher.faults.value(0).startsWith("No room left to write")) << int(verb);
-    EXPECT_EQ(read("to/a"), "old");
-    EXPECT_EQ(listOf("to"), QStringList{"a"});
-    EXPECT_EQ(read("a").size(), 100'000);
-  }
-}
-
 TEST_F(FileOperation, RemovesAFileFromAnotherDiskOnlyWhereItArrived) {
   const SmallDisk disk(path("to"));
   if (!disk.isMounted()) GTEST_SKIP() << "no second file system here";

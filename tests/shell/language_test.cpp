@@ -212,6 +212,20 @@ TEST(LanguageFiles, HaveEveryTextAndFitTheirRows) {
   expectLanguages("3G", "MS Sans Serif", kRows3G);
 }
 
+TEST_F(Language, FilesHaveAtMostAMebibyte) {
+  const QByteArray text = "[Notes]\nNote=Mine\n";
+  state.ConfigFolder2 = path() + '/';
+  state.LanguageFile2 = "my.lng";
+  clsVistrel engine(world);
+  for (const auto& [size, note] :
+       {std::pair{1 << 20, "Mine"}, {(1 << 20) + 1, "Do not forget|this..."}}) {
+    write("my.lng", text + QByteArray(size - text.size(), '\n'));
+    InitPreview2(engine, state, settings, log.reporter());
+    EXPECT_EQ(engine.NotesText, note);
+  }
+  EXPECT_EQ(log.texts().size(), 1);
+}
+
 }  // namespace
 
 }  // namespace quillane

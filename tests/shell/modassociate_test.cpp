@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/modassociate.h"
 
-#include "support/hindrance.h"
 #include "support/tempfolder.h"
 
+#include <QDateTime>
 #include <QDirIterator>
 #include <QMap>
 #include <gmock/gmock.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace quillane {
 
@@ -60,8 +63,12 @@ TEST_F(Association, ComesTwiceAndGoesWithoutATrace) {
                    "data/icons/hicolor/256x256/apps/quillane.png",
                    "data/icons/hicolor/48x48/mimetypes/application-x-quillane-theme.png",
                    "config/mimeapps.list"}));
+  const timespec longAgo[2] = {};
+  const QByteArray icons = QFile::encodeName(path("data/icons/hicolor"));
+  ASSERT_EQ(::utimensat(AT_FDCWD, icons.constData(), longAgo, 0), 0);
   CreateFileAssociation(program());
   EXPECT_EQ(files(), associated);
+  EXPECT_NE(QFileInfo(icons).lastModified().toSecsSinceEpoch(), 0) << "by which icons are renewed";
   RemoveFileAssociation();
   EXPECT_EQ(files(), before);
   RemoveFileAssociation();
@@ -121,19 +128,10 @@ TEST_F(Association, GivesTheEarlierDefaultBack) {
   EXPECT_EQ(read("config/mimeapps.list"), others);
 }
 
-TEST_F(Association, TellsWhatItCannotWriteOrRead) {
+TEST_F(Association, TellsWhatItCannotRead) {
   write("config/mimeapps.list", "mine");
   const auto before = files();
   EXPECT_NE(faultNumberOf([&] { CreateFileAssociation(path("nowhere/bin/quillane")); }), 0);
-  const QString started = program();
-  for (const char* locked : {"data", "config"}) {
-    for (const char* folder : {"data", "config"})
-      QFile::setPermissions(path(folder), QFile::Permissions(folder == locked ? 0x5555 : 0x7777));
-    const WithoutPrivilege nobody;
-    EXPECT_NE(faultNumberOf([&] { CreateFileAssociation(started); }), 0) << locked;
-    EXPECT_EQ(read("config/mimeapps.list"), "mine") << locked;
-  }
-  RemoveFileAssociation();
   EXPECT_EQ(files(), before);
 }
 

@@ -28,11 +28,16 @@ TEST_F(Settings, ReadsFlagsAndNumbersFromTexts) {
 
 TEST_F(Settings, KeepsTextsInAFile) {
   FaultLog log;
-  const QString file = path("config/Quillane 3G.ini");
-  IniSettings(file, log.reporter()).write(setting::OperatorName, "a, b; \"c\"");
-  const IniSettings again(file, log.reporter());
-  EXPECT_EQ(again.read(setting::OperatorName), "a, b; \"c\"");
-  EXPECT_EQ(again.read(setting::TimeFormat), "hh:mm");
+  int count = 0;
+  for (const char* text :
+       {"a, b; \"c\"", "@Invalid()", "@@", " blanks ", "a\tb\r\nc", "C:\\x\\", "\\x41",
+        "\u00e9\u7fe0", "50%20=[x]", "#", ";", "", "\"", "/home/ann/My Themes/"}) {
+    const QString file = path("config/Quillane %1.ini").arg(++count);
+    IniSettings(file, log.reporter()).write(setting::OperatorName, text);
+    const IniSettings again(file, log.reporter());
+    EXPECT_EQ(again.read(setting::OperatorName), text);
+    EXPECT_EQ(again.read(setting::TimeFormat), "hh:mm");
+  }
   const QString commas = write("x.ini", "[%General]\nOperatorName=Here, there\n");
   EXPECT_EQ(IniSettings(commas, log.reporter()).read(setting::OperatorName), "Here, there");
   EXPECT_TRUE(log.texts().isEmpty());

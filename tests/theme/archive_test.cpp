@@ -290,19 +290,6 @@ TEST_F(Archive, TellsWhatCannotBeReadOrCreated) {
   EXPECT_EQ(listArchive(theme).code, NotReadable);
 }
 
-TEST_F(Archive, TellsWhatItCannotWrite) {
-  const QByteArray tar = TarBuilder().file("a", QByteArray(8 * kMiB, 'a')).end().bytes();
-  const QString theme = write("theme.thm", tar);
-  const FileSizeLimit limit(kMiB);
-  EXPECT_EQ(extractArchive(theme, makeFolder("out")).code, WriteFailed);
-}
-
-TEST_F(Archive, TellsWhenTheDiskIsFull) {
-  const SmallDisk disk(makeFolder("out"));
-  if (!disk.isMounted()) GTEST_SKIP() << "No right to mount a small file system.";
-  EXPECT_EQ(extract(TarBuilder().file("a", QByteArray(kMiB, 'a')).end()), DiskFull);
-}
-
 TEST(ArchiveErrorText, NamesTheFileAndUnknownCodes) {
   EXPECT_EQ(archiveError(Damaged, "a%1.thm").text, "Some files in \"a%1.thm\" are corrupted.");
   EXPECT_EQ(archiveError(99, "a.thm").text, "UnTAR operation error 99");

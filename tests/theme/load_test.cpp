@@ -4,6 +4,10 @@
 
 #include "support/tempfolder.h"
 
+#include <algorithm>
+#include <ctime>
+#include <limits>
+
 namespace quillane {
 
 namespace {
@@ -128,6 +132,30 @@ TEST_F(Load, ReadsTheTextInTheCodePageOneTagALine) {
   const LoadedTheme theme = load();
   EXPECT_EQ(theme.xmlPath, file);
   EXPECT_EQ(theme.xml, "<a>\r\n<Theme_name Name=\"\u20AC\u0081\"/>\r\n</a>");
+}
+
+/// Texts on which a scan that starts over at each match takes the square of their length.
+TEST_F(Load, WorkGrowsWithTheTextAndNoMore) {
+  constexpr int size = 1 << 16;
+  const FaultReporter none = [](const Fault&) {};
+  const auto work = [&](const QByteArray& xml) {
+    write("theme.xml", xml);
+    std::clock_t least = std::numeric_limits<std::clock_t>::max();
+    for (int run = 0; run < 3; ++run) {
+      const std::clock_t begin = std::clock();
+      loadTheme(path(), states, none);
+      least = std::min(least, std::clock() - begin);
+    }
+    return least;
+  };
+  for (const QByteArray root : {"Ericsson_theme", "Sony_Ericsson_theme"})
+    for (const QByteArray& text :
+         {QByteArray("<Title "), QByteArray("Title_"), QByteArray("<Title Color=\""),
+          QByteArray("\r\r\n"), QByteArray("Title\t"), QByteArray("/>"), QByteArray("\"")}) {
+      const QByteArray xml = '<' + root + '>' + text.repeated(size / text.size());
+      const QByteArray longer = '<' + root + '>' + text.repeated(4 * size / text.size() - 9);
+      EXPECT_LT(work(longer), 9 * work(xml)) << text.constData() << " in " << root.constData();
+    }
 }
 
 TEST(NormaliseThemeXml, BreaksTagsAndRepairsDoubleReturns) {

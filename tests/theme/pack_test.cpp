@@ -96,10 +96,6 @@ TEST_F(Pack, LeavesTheOldArchiveWhereItFails) {
     const WithoutPrivilege nobody;
     EXPECT_EQ(packNumber({secret}), 70);
   }
-  {
-    const FileSizeLimit limit(1024);
-    EXPECT_EQ(packNumber({good}), 57);
-  }
   EXPECT_EQ(read("t.thm"), "old");
   EXPECT_EQ(listOf(""), QStringList({"good.gif", "secret.gif", "t.thm"}));
   EXPECT_EQ(faultNumberOf([&] { packArchive(path("none/t.thm"), {good}); }), 53);
@@ -131,14 +127,6 @@ TEST_F(Pack, TakesAsMuchAsTheReader) {
     }
     EXPECT_TRUE(read("t.thm") == before) << what;
   }
-}
-
-TEST_F(Pack, TellsWhenTheDiskIsFull) {
-  const SmallDisk disk(makeFolder("small"));
-  if (!disk.isMounted()) GTEST_SKIP() << "No right to mount a small file system.";
-  const QString large = makeFile("large.gif", QByteArray(1 << 20, 'l'));
-  EXPECT_EQ(faultNumberOf([&] { packArchive(path("small/t.thm"), {large}); }), 61);
-  EXPECT_EQ(listOf("small"), QStringList());
 }
 
 TEST_F(Pack, ListsNamesAndSizes) {

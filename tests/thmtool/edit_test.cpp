@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/hindrance.h"
 #include "support/tarbuilder.h"
 #include "support/tinygif.h"
 #include "theme/archive.h"
@@ -156,19 +155,6 @@ TEST_F(Edit, RefusesPicturesAndWritesNothing) {
             kQuiet)
       << "the later picture counts alone";
   EXPECT_EQ(membersOf("Out.thm"), "out.xml index.txt fine.jpg");
-}
-
-TEST_F(Edit, LeavesTheOldThemeWhereItCannotWrite) {
-  const QString theme = theme2("");
-  const QByteArray before = read("theme2.thm");
-  {
-    const FileSizeLimit limit(3500);
-    EXPECT_EQ(
-        runTool({"edit", theme, theme}),
-        (ToolRun{NotDone, "",
-                 "thmtool edit: File \"" + theme.toStdString() + "\" could not be written.\n"}));
-  }
-  EXPECT_EQ(read("theme2.thm"), before);
 }
 
 TEST_F(Edit, WarnsOfWhatCannotBeSeenAndGoesOn) {
