@@ -8,6 +8,7 @@
 #include "preview/platform.h"
 #include "shell/fileoperation.h"
 #include "shell/gifwriter.h"
+#include "shell/jpegreader.h"
 #include "shell/quantize.h"
 #include "theme/archive.h"
 #include "ui_frmabout.h"
@@ -37,6 +38,7 @@ constexpr Library kLibraries[] = {
     {"libarchive", archiveLibraryVersion, "theme archives", "BSD-2-Clause"},
     {"libimagequant", quantizerVersion, "256 colors", "GPL-3.0-or-later"},
     {"giflib", gifLibraryVersion, "GIF files", "MIT"},
+    {"libjpeg-turbo", jpegLibraryVersion, "the check of JPEG files", "IJG and BSD-3-Clause"},
     {"FreeType", freeTypeVersion, "texts of the screens", "FTL or GPL-2.0"},
     {"GLib", glibVersion, "the way to the trash", "LGPL-2.1-or-later"},
     {"Fontconfig", fontconfigVersion, "finding typefaces", "HPND"},

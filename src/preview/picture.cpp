@@ -89,13 +89,32 @@ QImage cleared(const QImageReader& reader) {
   return image;
 }
 
+/// Decodes the bytes of a picture file; a null image when they are none.
+QImage decode(QByteArray bytes) {
+  const QByteArray format = formatOf(bytes);
+  if (format.isEmpty() || bytes.size() < 10) return {};
+  if (format == "gif" && isTooLarge(gifScreen(bytes))) return {};
+
+  const int formerLimit = QImageReader::allocationLimit();
+  QImageReader::setAllocationLimit(kAllocationLimit);
+  const auto restore = qScopeGuard([=] { QImageReader::setAllocationLimit(formerLimit); });
+
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer, format);
+  reader.setAutoDetectImageFormat(false);
+  if (isTooLarge(reader.size())) return {};
+  QImage image = cleared(reader);
+  if (!reader.read(&image) || isTooLarge(image.size())) return {};
+  return format == "ico" ? withIconMask(image, bytes) : image;
+}
+
 /// Decodes, or remembers having decoded the same bytes: the screens of a theme share their
 /// pictures, and decoding costs many times what reading the file does.
 Picture decodeOnce(const QByteArray& bytes) {
   thread_local QCache<QByteArray, Picture> decoded(kRememberedBytes);
   if (const Picture* known = decoded.object(bytes)) return *known;
 
-  Picture picture(decodePicture(bytes));
+  Picture picture(decode(bytes));
   const qsizetype cost = bytes.size() + picture.image().sizeInBytes();
   decoded.insert(bytes, new Picture(picture), cost);
   return picture;
@@ -122,24 +141,6 @@ int Picture::width() const {
 
 int Picture::height() const {
   return placementSize(image_.height());
-}
-
-QImage decodePicture(QByteArray bytes) {
-  const QByteArray format = formatOf(bytes);
-  if (format.isEmpty() || bytes.size() < 10) return {};
-  if (format == "gif" && isTooLarge(gifScreen(bytes))) return {};
-
-  const int formerLimit = QImageReader::allocationLimit();
-  QImageReader::setAllocationLimit(kAllocationLimit);
-  const auto restore = qScopeGuard([=] { QImageReader::setAllocationLimit(formerLimit); });
-
-  QBuffer buffer(&bytes);
-  QImageReader reader(&buffer, format);
-  reader.setAutoDetectImageFormat(false);
-  if (isTooLarge(reader.size())) return {};
-  QImage image = cleared(reader);
-  if (!reader.read(&image) || isTooLarge(image.size())) return {};
-  return format == "ico" ? withIconMask(image, bytes) : image;
 }
 
 Picture LoadPicture(const QString& path) {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -29,9 +28,6 @@ class Picture {
 
 /// Whether a picture has more pixels a side (4096) than the program works with.
 bool isTooLarge(QSize size);
-
-/// Decodes the bytes of a file that `LoadPicture` reads; a null image when they are none.
-QImage decodePicture(QByteArray bytes);
 
 /// Reads a GIF (first frame on its logical screen), JPEG, BMP or icon file, by content. Throws
 /// `Fault` (BadPicture, FileNotFound), also for a side above 4096 pixels.

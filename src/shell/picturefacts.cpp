@@ -3,6 +3,7 @@
 #include "shell/picturefacts.h"
 
 #include "preview/picture.h"
+#include "shell/jpegreader.h"
 
 #include <QtEndian>
 
@@ -91,46 +92,6 @@ class GifWalk {
   bool isComplete_ = false;
 };
 
-/// The marker bytes of a JPEG that matter here.
-enum Marker : uchar {
-  FirstFrame = 0xC0,  ///< Baseline; the next one differs only in its number of bits.
-  HuffmanTables = 0xC4,
-  Reserved = 0xC8,
-  ArithmeticTables = 0xCC,
-  LastFrame = 0xCF,
-  Scan = 0xDA,
-};
-
-bool isFrame(uchar marker) {
-  return marker >= FirstFrame && marker <= LastFrame && marker != HuffmanTables &&
-         marker != Reserved && marker != ArithmeticTables;
-}
-
-/// Takes from a frame's segment what it tells; the first two bytes are the segment's length.
-void takeFrame(uchar marker, QByteArrayView segment, PictureFacts& facts) {
-  constexpr qsizetype kShortest = 8;
-  if (segment.size() < kShortest) return;
-  facts.size = QSize(qFromBigEndian<quint16>(segment.data() + 5),
-                     qFromBigEndian<quint16>(segment.data() + 3));
-  facts.isBaseline = marker <= FirstFrame + 1;
-}
-
-/// Walks the segments of a JPEG up to its pixels; false when they do not come.
-bool walkSegments(QByteArrayView rest, PictureFacts& facts) {
-  rest = rest.sliced(2);
-  while (rest.size() >= 4 && rest[0] == '\xFF') {
-    const auto marker = static_cast<uchar>(rest[1]);
-    rest = rest.sliced(marker == 0xFF ? 1 : 2);
-    if (marker == 0xFF) continue;  // Filling.
-    const qsizetype length = qFromBigEndian<quint16>(rest.data());
-    if (length < 2 || length > rest.size()) return false;
-    if (isFrame(marker)) takeFrame(marker, rest.first(length), facts);
-    rest = rest.sliced(length);
-    if (marker == Scan) return rest.lastIndexOf(QByteArrayView("\xFF\xD9")) >= 0;
-  }
-  return false;
-}
-
 }  // namespace
 
 PictureForm pictureForm(const QByteArray& start) {
@@ -152,7 +113,7 @@ PictureFacts pictureFacts(const QByteArray& bytes) {
     facts.size = *gifScreen(bytes);
     GifWalk(bytes, facts).run();
   } else if (facts.form == PictureForm::Jpeg) {
-    facts.isDamaged = !walkSegments(bytes, facts) || decodePicture(bytes).isNull();
+    readJpeg(bytes, facts);
   }
   return facts;
 }

@@ -168,6 +168,7 @@ TEST_F(Check, FindsPicturesThatPhonesDoNotShow) {
       {"progressive JPEG", encoded("jpg", true), noGif, progressive},
       {"JPEG without an end", encoded("jpg").chopped(2), noGif, damaged},
       {"JPEG cut in its tables", encoded("jpg").first(100), noGif, damaged},
+      {"JPEG with wrong pixels", noised, noGif, damaged},
       {"PNG", encoded("png"), noGif, neither},
       {"empty", "", noGif, neither},
   };
