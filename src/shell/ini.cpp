@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStringList>
+#include <QStringTokenizer>
 
 #include <algorithm>
 #include <iterator>
@@ -55,8 +56,8 @@ bool isEntry(const QString& line, const QString& key) {
 
 std::optional<QString> findValue(const QString& text, const QString& section, const QString& key) {
   bool inside = false;
-  for (const QString& raw : text.split(u'\n')) {
-    const QString line = stripped(raw);
+  for (const QStringView raw : qTokenize(text, u'\n')) {
+    const QString line = stripped(raw.toString());
     if (line.startsWith(u'[')) {
       if (inside) return std::nullopt;
       inside = isSection(line, section);

@@ -122,7 +122,7 @@ IniSettings::IniSettings(const QString& file, const FaultReporter& report) : fil
 }
 
 IniSettings::~IniSettings() {
-  skipOnFault([this] { flush(); });
+  skipOnFault([this] { IniSettings::flush(); });
 }
 
 // The store knows the section General as [%General]; one that a person wrote as [General] holds

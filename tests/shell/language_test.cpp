@@ -219,7 +219,7 @@ TEST_F(Language, FilesHaveAtMostAMebibyte) {
   clsVistrel engine(world);
   for (const auto& [size, note] :
        {std::pair{1 << 20, "Mine"}, {(1 << 20) + 1, "Do not forget|this..."}}) {
-    write("my.lng", text + QByteArray(size - text.size(), '\n'));
+    write("my.lng", text + QByteArray(size - text.size(), ' '));
     InitPreview2(engine, state, settings, log.reporter());
     EXPECT_EQ(engine.NotesText, note);
   }
