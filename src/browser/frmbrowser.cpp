@@ -49,12 +49,13 @@ bool isQuoted(const QString& commandLine) {
   return commandLine.contains(u'"');
 }
 
-/// The path that a command line names, absolute.
+/// The path that a command line names, absolute; that of a folder ends in a separator.
 QString themePath(const QString& commandLine) {
   if (commandLine.isEmpty()) return {};
   const QString path =
       isQuoted(commandLine) ? commandLine.mid(1, commandLine.size() - 2) : commandLine;
-  return QFileInfo(path).absoluteFilePath();
+  const QString absolute = QFileInfo(path).absoluteFilePath();
+  return FolderExists(absolute) ? withSeparator(absolute) : absolute;
 }
 
 }  // namespace
@@ -100,7 +101,7 @@ void frmBrowser::Form_Load(const QString& commandLine) {
   ui_->txtXML->viewport()->setBackgroundRole(QPalette::Button);
   updateMenus();
   ui_->filFiles->setFocus();
-  if (!path.isEmpty()) selectFromCommandLine(commandLine, path);
+  if (!path.isEmpty() && path != state_.BrowseFolder) selectFromCommandLine(commandLine, path);
   setFixedSize(sizeHint());
   show();
 }

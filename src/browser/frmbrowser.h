@@ -40,8 +40,8 @@ class frmBrowser : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// All that is handed in outlives the window. `commandLine` is the path of a theme to select, may
-  /// stand in double quotes and may be empty.
+  /// All that is handed in outlives the window. `commandLine` is the path of a theme to select or
+  /// of a folder to show, may stand in double quotes and may be empty.
   frmBrowser(PublicState& state, SettingsStore& settings, Dialogs& dialogs, PreviewWorld& world,
              const QString& commandLine);
   ~frmBrowser() override;

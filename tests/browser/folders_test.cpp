@@ -88,6 +88,17 @@ TEST_F(BrowserStart, SelectsTheThemeOfTheCommandLine) {
   }
 }
 
+TEST_F(BrowserStart, ShowsTheFolderOfTheCommandLine) {
+  addTheme("a.thm");
+  state.BrowseFolder = path("home/");
+  for (const char* folder : {"themes", "themes/"}) {
+    open(path(folder));
+    EXPECT_EQ(state.BrowseFolder, path("themes/"));
+    EXPECT_EQ(list().listCount(), 1);
+    EXPECT_TRUE(list().selectedItems().isEmpty());
+  }
+}
+
 TEST_F(BrowserStart, SaysThatAThemeIsMissing) {
   for (const auto& [missing, folder] :
        {std::pair{"nowhere/none.thm", "themes/"}, {"home/none.thm", "home/"}}) {
