@@ -18,8 +18,8 @@ constexpr qsizetype kLongestText = 80;
 
 // What no theme needs more than. A picture of 256 colours for each slot, all of them noise that the
 // compression of GIFs makes half as large again, with palettes, XML, index and the blocks of the
-// archive, comes to 55 KiB in generation 2 and to 112 KiB in 3G. Phones of that time have a few
-// hundred KiB for all that their owner keeps.
+// archive, comes to 55 KiB in generation 2 and to 112 KiB in 3G. What the phones themselves refuse
+// is not known to us; what is larger carries something that no phone shows.
 constexpr qint64 kMostBytes2 = 64 << 10;
 constexpr qint64 kMostBytes3G = 128 << 10;
 
