@@ -49,92 +49,42 @@ class EditorColors : public EditorTest {
   }
 };
 
-/// The engine's name for a slot's colour.
-QString propertyOf(QString stem, Generation generation) {
-  const QMap<QString, QString> odd{{"OperatorName", "StandbyOperatorName"},
-                                   {"OperatorNameOut", "StandbyOperatorNameOutline"},
-                                   {"Time", "StandbyTime"},
-                                   {"TimeOut", "StandbyTimeOutline"},
-                                   {"DesktopBack", "DesktopBackground"},
-                                   {"DesktopTitleOut", "DesktopTitleOutline"}};
-  stem = odd.value(stem, stem);
-  if (generation == Generation::ThreeG && stem.startsWith("Popup"))
-    stem = (stem == "PopupFrame" || stem == "PopupShadow" ? "MoreList" : "MoreList~") + stem;
-  return stem.remove("~Popup") + "Color";
-}
-
-TEST_F(EditorColors, EverySchemaColorHasItsSlot) {
-  for (const Generation which : kBoth) {
-    generation = which;
-    QSet<QString> properties, names;
-    for (const ColorSlot& slot : colorSlots()) {
-      const auto& color = schemaOf(which).colors[static_cast<std::size_t>(slot.color)];
-      EXPECT_EQ(QString(color.property), propertyOf(slot.stem, which));
-      properties << color.property;
-    }
-    EXPECT_EQ(static_cast<std::size_t>(properties.size()), schemaOf(which).colors.size());
-    EXPECT_EQ(colorSlots().size(), properties.size());
-    for (const EditorTab& tab : editorTabs(which))
-      for (const ColorSlot& slot : tab.colorSlots)
-        names << tab.caption + slot.group + slot.caption;
-    EXPECT_EQ(names.size(), properties.size()) << "two slots look the same";
-  }
-}
-
 // Each slot gets a colour of its own, so that whoever follows shows.
 TEST_F(EditorColors, TakeAColorWithTheirFollowers) {
-  const QMap<QString, QString> both{{"Highlight", "CalendarWeekendHighlight"},
-                                    {"HighlightText", "CalendarWeekendHighlightText"},
-                                    {"OperatorName", "Time"},
-                                    {"OperatorNameOut", "TimeOut"},
-                                    {"PopupBackground", "NotesBackground"},
-                                    {"PopupPrompt", "PopupCursor"},
-                                    {"PopupText", "NotesText PopupCursor PopupPrompt"},
-                                    {"Prompt", "Cursor"}};
-  QMap<QString, QString> of2 = both, of3G = both;
-  of2.insert({{"Text", "CalendarWeekendText Cursor Prompt"}});
-  of3G.insert({{"SoftkeysBackground", "SoftkeysDisabledTextShadow SoftkeysTextShadow"},
-               {"SoftkeysTextShadow", "SoftkeysDisabledTextShadow"},
-               {"WapbrowserUnderline", "WapbrowserTableborder"}});
   // No screen of 3G has a line to write in.
   const QStringList unpainted3G{"Prompt", "Cursor", "PopupPrompt", "PopupCursor"};
   for (const Generation which : kBoth) {
     openNew(which);
     // Outlines show over a background only.
     state.EditorEngine2->StandbyType = 1;
-    int number = 0;
+    QSet<int> ofSchema;
     for (const ColorSlot& slot : colorSlots()) {
-      const QString followers = (which == Generation::Two ? of2 : of3G).value(slot.stem);
-      QStringList expected = followers.split(' ', Qt::SkipEmptyParts) << slot.stem;
+      ofSchema << slot.color;
+      QStringList expected;
+      for (const ColorSlot& other : colorSlots())
+        if (other.color == slot.color || slot.followers.contains(other.color))
+          expected << other.stem;
       expected.sort();
       const bool needsMore = slot.stem == "PopupTextShadow";
       if (needsMore) click("btnMore");
       const QList<QImage> before = panesOf(slot);
-      const QString rgb = QString("4%1E").arg(++number, 4, 16, QChar('0')).toUpper();
+      const QString rgb = QString("4%1E").arg(ofSchema.size(), 4, 16, QChar('0')).toUpper();
       pick(slot.stem, rgb);
       EXPECT_EQ(holders(rgb), expected.join(' '));
       const bool isPainted = which == Generation::Two || !unpainted3G.contains(slot.stem);
       EXPECT_EQ(panesOf(slot) != before, isPainted) << slot.stem.toStdString();
       if (needsMore) click("btnMore");
+      pick(slot.stem, {});
+      EXPECT_EQ(holders(rgb), expected.join(' ')) << "cancelled";
       QTest::keyPress(form.get(), Qt::Key_Control);
       const QString alone = QString(rgb).replace(0, 1, "8");
       pick(slot.stem, alone);
       EXPECT_EQ(holders(alone), slot.stem) << "with Ctrl";
       // Of a key released over a dialog nothing is heard; slots with followers forget it.
-      if (followers.isEmpty()) QTest::keyRelease(form.get(), Qt::Key_Control, Qt::ControlModifier);
+      if (slot.followers.isEmpty())
+        QTest::keyRelease(form.get(), Qt::Key_Control, Qt::ControlModifier);
     }
-  }
-}
-
-TEST_F(EditorColors, ShowTheColorAndKeepItOnCancel) {
-  for (const Generation which : kBoth) {
-    openNew(which);
-    pick("Text", "C03A10");
-    const QImage swatch = control<ColorField>("lblTextClr").grab().toImage();
-    EXPECT_EQ(swatch.pixelColor(swatch.rect().center()), QColor("#C03A10"));
-    pick("Text", {});
-    EXPECT_EQ(holders("C03A10"),
-              which == Generation::Two ? "CalendarWeekendText Cursor Prompt Text" : "Text");
+    EXPECT_EQ(static_cast<std::size_t>(ofSchema.size()), schemaOf(which).colors.size());
   }
 }
 
@@ -143,29 +93,16 @@ TEST_F(EditorColors, MarkWhatCannotBeReadAndBlockSaving) {
     const char *stem, *rgb, *expected;
   };
   const QList<Step> steps[] = {
-      {{"OperatorNameOut", "FFFFE0", "OperatorName OperatorNameOut|Standby|blocked"},
-       {"OperatorNameOut", "FFFFDF", "||free"},
-       {"DesktopTitle", "FFFFFF", "DesktopBack DesktopTitle DesktopTitleOut|Desktop|blocked"},
-       {"DesktopBack", "000000", "||free"},
+      {{"OperatorNameOut", "FFFFDF", "||free"},
        {"Text", "FFFFE0", "Background Text Prompt|Menus|blocked"},
        {"Prompt", "FFFFDF", "Background Text|Menus|blocked"},
-       {"Highlight", "FFFFFF", "Background Text Highlight HighlightText|Menus|blocked"},
        {"PopupText", "34D2CC",
-        "Background Text Highlight HighlightText PopupBackground PopupText PopupPrompt|Menus "
-        "Popups|blocked"},
-       {"PopupBackground", "000000", "Background Text Highlight HighlightText|Menus|blocked"},
-       {"Background", "000000", "Highlight HighlightText|Menus|blocked"},
-       {"Highlight", "FF0000", "||free"},
-       {"HighlightText", "0000FF", "Highlight HighlightText|Menus|blocked"}},
+        "Background Text PopupBackground PopupText PopupPrompt|Menus Popups|blocked"},
+       {"PopupBackground", "000000", "Background Text|Menus|blocked"},
+       {"Background", "000000", "||free"},
+       {"DesktopTitle", "FFFFFF", "DesktopBack DesktopTitle DesktopTitleOut|Desktop|blocked"}},
       {{"OperatorNameOut", "103F7B", "OperatorName OperatorNameOut|Standby|blocked"},
        {"OperatorNameOut", "103F7C", "||free"},
-       {"Title", "000000", "||free"},
-       {"TitleTextShadow", "000013", "Title TitleText TitleTextShadow|Menus|blocked"},
-       {"TitleTextShadow", "000014", "||free"},
-       {"PopupTitle", "BDBDBD", "||free"},
-       {"PopupTitleText", "BDBDBD",
-        "PopupTitle PopupTitleText PopupTitleTextShadow|Popups|blocked"},
-       {"PopupTitleText", "FFFFFF", "||free"},
        {"Text", "C0DFFF", "Background Text|Menus|blocked"},
        {"Prompt", "C0DFFF", "Background Text Prompt|Menus|blocked"},
        {"Text", "000000", "Background Prompt|Menus|blocked"}}};
@@ -186,14 +123,9 @@ TEST_F(EditorColors, MarkWhatCannotBeReadAndBlockSaving) {
 TEST_F(EditorColors, AreCheckedWhenAThemeComesIn) {
   const char* const blocked = "Highlight HighlightText|Menus|blocked";
   for (const Generation which : kBoth) {
-    const ThemeValues standard(which);
-    QByteArray elements;
-    for (std::size_t at = 0; at < standard.schema().colors.size(); ++at) {
-      const ColorElement& color = standard.schema().colors[at];
-      const bool isHighlight = QString(color.property) == "HighlightColor";
-      elements += '<' + QByteArray(color.element.data()) + " Color=\"0x" +
-                  (isHighlight ? "FFFFFF" : color.standard.data()) + "\"/>";
-    }
+    QByteArray elements = "<Highlight Color=\"0xFFFFFF\"/>";  // The first of two counts.
+    for (const ColorElement& color : schemaOf(which).colors)
+      elements += QString("<%1 Color=\"0x%2\"/>").arg(color.element, color.standard).toLatin1();
     showTheme(which, "a.thm", elements);
     open(true);
     EXPECT_EQ(warnings(), blocked);

