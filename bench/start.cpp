@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Times programs from their start until the display maps a window of theirs, in turn:
-//   bench_start RUNS TITLE COMMAND TITLE COMMAND
+//   bench_start RUNS TITLE PROGRAM TITLE PROGRAM
 // Prints the medians and the ratio of the second to the first.
 #include <QByteArray>
 #include <QProcess>
@@ -64,14 +64,12 @@ class Display {
   xcb_window_t root_ = 0;
 };
 
-double secondsToWindow(const QString& title, const QString& command) {
-  QStringList words = QProcess::splitCommand(command);
-  const QString program = words.takeFirst();
+double secondsToWindow(const QString& title, const QString& program) {
   Display display;
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   const auto start = Clock::now();
-  process.start(program, words);
+  process.start(program, {});
   if (!process.waitForStarted()) qFatal("%s does not start.", qPrintable(program));
   display.awaitWindow(title.toUtf8());
   const std::chrono::duration<double> taken = Clock::now() - start;
@@ -91,7 +89,10 @@ int main(int argc, char** argv) {
   QStringList words;
   for (int word = 1; word < argc; ++word)
     words << QString::fromLocal8Bit(argv[word]);
-  if (words.size() != 5 || words.at(0).toInt() < 1) return 2;
+  if (words.size() != 5 || words.at(0).toInt() < 1) {
+    QTextStream(stderr) << "Usage: bench_start RUNS TITLE PROGRAM TITLE PROGRAM\n";
+    return 2;
+  }
   std::vector<double> taken[2];
   for (int run = 0; run < words.at(0).toInt(); ++run)
     for (int program : {0, 1})

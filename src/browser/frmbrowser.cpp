@@ -49,13 +49,12 @@ bool isQuoted(const QString& commandLine) {
   return commandLine.contains(u'"');
 }
 
-/// The path that a command line names, absolute; that of a folder ends in a separator.
+/// The path that a command line names, absolute.
 QString themePath(const QString& commandLine) {
   if (commandLine.isEmpty()) return {};
   const QString path =
       isQuoted(commandLine) ? commandLine.mid(1, commandLine.size() - 2) : commandLine;
-  const QString absolute = QFileInfo(path).absoluteFilePath();
-  return FolderExists(absolute) ? withSeparator(absolute) : absolute;
+  return QFileInfo(path).absoluteFilePath();
 }
 
 }  // namespace
@@ -82,7 +81,8 @@ frmBrowser::~frmBrowser() = default;
 
 void frmBrowser::Form_Load(const QString& commandLine) {
   const QString path = themePath(commandLine);
-  const QString folder = SplitPath(path, PathPart::Folder);
+  const bool isFolder = FolderExists(path);
+  const QString folder = isFolder ? path : SplitPath(path, PathPart::Folder);
   if (!path.isEmpty() && FolderExists(folder)) state_.BrowseFolder = withSeparator(folder);
 
   dressButtons(*this);
@@ -101,7 +101,7 @@ void frmBrowser::Form_Load(const QString& commandLine) {
   ui_->txtXML->viewport()->setBackgroundRole(QPalette::Button);
   updateMenus();
   ui_->filFiles->setFocus();
-  if (!path.isEmpty() && path != state_.BrowseFolder) selectFromCommandLine(commandLine, path);
+  if (!path.isEmpty() && !isFolder) selectFromCommandLine(commandLine, path);
   setFixedSize(sizeHint());
   show();
 }

@@ -53,11 +53,6 @@ qint64 numberAt(const QByteArray& bytes, qint64 at, int width) {
   return number;
 }
 
-/// The logical screen in a GIF's header. The decoder tells the first frame's size instead.
-QSize gifScreen(const QByteArray& start) {
-  return {static_cast<int>(numberAt(start, 6, 2)), static_cast<int>(numberAt(start, 8, 2))};
-}
-
 /// Bytes of a bitmap's row.
 qint64 rowBytes(int width, int bits) {
   return (width * qint64{bits} + 31) / 32 * 4;
@@ -93,7 +88,7 @@ QImage cleared(const QImageReader& reader) {
 QImage decode(QByteArray bytes) {
   const QByteArray format = formatOf(bytes);
   if (format.isEmpty() || bytes.size() < 10) return {};
-  if (format == "gif" && isTooLarge(gifScreen(bytes))) return {};
+  if (format == "gif" && isTooLarge(gifScreen(bytes).value_or(QSize()))) return {};
 
   const int formerLimit = QImageReader::allocationLimit();
   QImageReader::setAllocationLimit(kAllocationLimit);
@@ -121,6 +116,13 @@ Picture decodeOnce(const QByteArray& bytes) {
 }
 
 }  // namespace
+
+std::optional<QSize> gifScreen(const QByteArray& start) {
+  constexpr qsizetype kHeader = 10;
+  const bool isGif = start.startsWith("GIF87a") || start.startsWith("GIF89a");
+  if (!isGif || start.size() < kHeader) return std::nullopt;
+  return QSize(static_cast<int>(numberAt(start, 6, 2)), static_cast<int>(numberAt(start, 8, 2)));
+}
 
 bool isTooLarge(QSize size) {
   return qAbs(size.width()) > kLongestSide || qAbs(size.height()) > kLongestSide;

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QSize>
 #include <QString>
+
+#include <optional>
 
 namespace quillane {
 
@@ -25,6 +28,10 @@ class Picture {
  private:
   QImage image_;
 };
+
+/// The logical screen in the first bytes of a GIF, where a decoder tells the first frame's size;
+/// nothing where they are of another file.
+std::optional<QSize> gifScreen(const QByteArray& start);
 
 /// Whether a picture has more pixels a side (4096) than the program works with.
 bool isTooLarge(QSize size);

@@ -14,13 +14,9 @@ namespace quillane {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString sizeOf(QSize size) {
+QString pixelsText(QSize size) {
   return u"%1x%2"_s.arg(size.width()).arg(size.height());
 }
-
-}  // namespace
 
 std::optional<QSize> IsGifFile(const QString& path) {
   QFile file(path);
@@ -31,17 +27,17 @@ std::optional<QSize> IsGifFile(const QString& path) {
 QSize themePictureSize(const ThemeSchema& schema, const QString& path) {
   const QByteArray bytes = readFile(path);
   if (!takesForm(schema, pictureForm(bytes)))
-    throw Fault(FaultNumber::BadPicture, wrongKindText(schema, path));
+    throw Fault(FaultNumber::BadPicture, wrongFormText(schema, path));
   // A GIF without a screen shows its frame, however large that is.
   const QSize screen = gifScreen(bytes).value_or(QSize());
   return screen.isEmpty() ? LoadPicture(path).image().size() : screen;
 }
 
-bool takesForm(const ThemeSchema& schema, PictureForm kind) {
-  return kind == PictureForm::Gif || (kind == PictureForm::Jpeg && schema.takesJpeg);
+bool takesForm(const ThemeSchema& schema, PictureForm form) {
+  return form == PictureForm::Gif || (form == PictureForm::Jpeg && schema.takesJpeg);
 }
 
-QString wrongKindText(const ThemeSchema& schema, const QString& file) {
+QString wrongFormText(const ThemeSchema& schema, const QString& file) {
   const QString kinds = schema.takesJpeg ? u"neither a GIF nor a JPEG file"_s : u"no GIF file"_s;
   return u"\"%1\" is %2."_s.arg(file, kinds);
 }
@@ -59,8 +55,8 @@ QString imageDialogTitle(const ImageElement& slot) {
 QString imageDimensionsText(const ImageElement& slot, const QString& path, QSize size) {
   return u"The dimensions for %1 image must be %2 pixels.\r\n\r\n"
          "Selected image: \"%3\"\r\n"
-         "Dimensions: %4 pixels"_s.arg(slot.word, sizeOf(slot.size),
-                                       SplitPath(path, PathPart::Name), sizeOf(size));
+         "Dimensions: %4 pixels"_s.arg(slot.word, pixelsText(slot.size),
+                                       SplitPath(path, PathPart::Name), pixelsText(size));
 }
 
 }  // namespace quillane

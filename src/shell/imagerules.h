@@ -12,6 +12,9 @@
 
 namespace quillane {
 
+/// A size in pixels as messages tell it: "101x80".
+QString pixelsText(QSize size);
+
 /// Whether a file begins as a GIF does, and the size of its logical screen. Nothing for any other
 /// file, and for one that cannot be read.
 std::optional<QSize> IsGifFile(const QString& path);
@@ -21,11 +24,11 @@ std::optional<QSize> IsGifFile(const QString& path);
 /// `Fault` for a file of another kind or one that cannot be read.
 QSize themePictureSize(const ThemeSchema& schema, const QString& path);
 
-/// Whether the images of a generation may be of this kind.
-bool takesForm(const ThemeSchema& schema, PictureForm kind);
+/// Whether the images of a generation may have this form.
+bool takesForm(const ThemeSchema& schema, PictureForm form);
 
-/// The complaint about a file of a kind that the images of a generation may not have.
-QString wrongKindText(const ThemeSchema& schema, const QString& file);
+/// The complaint about a file of a form that the images of a generation may not have.
+QString wrongFormText(const ThemeSchema& schema, const QString& file);
 
 /// Whether a slot takes a picture of this size.
 bool takesSize(const ImageElement& slot, QSize size);

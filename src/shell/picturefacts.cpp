@@ -99,14 +99,6 @@ PictureForm pictureForm(const QByteArray& start) {
   return start.startsWith("\xFF\xD8\xFF") ? PictureForm::Jpeg : PictureForm::Other;
 }
 
-std::optional<QSize> gifScreen(const QByteArray& start) {
-  constexpr qsizetype kHeader = 10;
-  const bool isGif = start.startsWith("GIF87a") || start.startsWith("GIF89a");
-  if (!isGif || start.size() < kHeader) return std::nullopt;
-  return QSize(qFromLittleEndian<quint16>(start.constData() + 6),
-               qFromLittleEndian<quint16>(start.constData() + 8));
-}
-
 PictureFacts pictureFacts(const QByteArray& bytes) {
   PictureFacts facts{.form = pictureForm(bytes)};
   if (facts.form == PictureForm::Gif) {

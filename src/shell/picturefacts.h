@@ -6,17 +6,14 @@
 #include <QSize>
 
 #include <cstdint>
-#include <optional>
 
 namespace quillane {
 
+/// The form of a picture file, as far as themes tell them apart.
 enum class PictureForm : std::uint8_t { Gif, Jpeg, Other };
 
-/// The kind of a picture, told by its first bytes.
+/// Told by the first bytes of a file.
 PictureForm pictureForm(const QByteArray& start);
-
-/// The logical screen in the first bytes of a GIF; nothing where they are of another file.
-std::optional<QSize> gifScreen(const QByteArray& start);
 
 /// What a phone's decoder has to cope with in a GIF or JPEG.
 struct PictureFacts {

@@ -29,10 +29,6 @@ constexpr FactWords kFactWords[] = {
      "%1 is no baseline JPEG but a progressive one or the like, which phones do not show."_L1},
 };
 
-QString pixels(QSize size) {
-  return u"%1x%2"_s.arg(size.width()).arg(size.height());
-}
-
 /// Looks at each picture once, and at its size for each slot that shows it.
 class PictureCheck {
  public:
@@ -55,7 +51,7 @@ class PictureCheck {
     if (takesForm(*theme_.schema, facts.form))
       checkFacts(facts, source);
     else
-      add(wrongKindText(*theme_.schema, clipped(source)));
+      add(wrongFormText(*theme_.schema, clipped(source)));
     return *facts_.insert(source, facts);
   }
 
@@ -68,8 +64,8 @@ class PictureCheck {
   void checkSize(const ImageElement& image, const QString& source, QSize size) {
     if (!size.isValid() || takesSize(image, size)) return;
     add(u"%1: %2 has %3 pixels and must have %4%5."_s.arg(
-        image.element, quoted(source), pixels(size),
-        image.rule == SizeRule::Exact ? QString() : u"at most "_s, pixels(image.size)));
+        image.element, quoted(source), pixelsText(size),
+        image.rule == SizeRule::Exact ? QString() : u"at most "_s, pixelsText(image.size)));
   }
 
   void add(const QString& text) { findings_.append(Finding{Severity::Error, text}); }

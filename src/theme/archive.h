@@ -16,11 +16,12 @@ class ThemeValues;
 /// Name of the member that lists the others.
 inline constexpr QLatin1String kIndexName{"index.txt"};
 
-/// A regular member of a theme archive as the reader takes it: bare name and size in bytes.
+/// A regular member of a theme archive as the reader takes it: bare name, size in
+/// bytes, and path.
 struct ArchiveMember {
   QString name;
   qint64 size = 0;
-  QString path{};  ///< As the archive has it, but for what makes it longer than a name may be.
+  QString path{};  ///< As the archive has it, cut after what a name may have.
 };
 
 /// Why the reader passes over a member.

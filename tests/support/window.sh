@@ -4,6 +4,24 @@
 # Steps of a person in front of the program's windows, for scripts with a display and a window
 # manager. `window` is the one that the next steps go to.
 
+# Runs the calling script again on a display of its own, with a window manager and a `home` that
+# stands for all of a user's folders and goes away with it.
+on_own_display() { # the script and its arguments
+  if [ -n "${OWN_DISPLAY_HOME:-}" ]; then
+    home=$OWN_DISPLAY_HOME
+    export HOME=$home XDG_RUNTIME_DIR=$home QUILLANE_HOME=$home/quillane QT_QPA_PLATFORM=xcb
+    export XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
+    openbox &>"$home/openbox.log" &
+    trap "kill $!" EXIT
+    return
+  fi
+  OWN_DISPLAY_HOME=$(mktemp -d)
+  export OWN_DISPLAY_HOME
+  trap 'rm -rf "$OWN_DISPLAY_HOME"' EXIT
+  xvfb-run -a -s '-screen 0 1280x900x24 -noreset' "$@"
+  exit
+}
+
 fail() {
   echo "$*" >&2
   exit 1
