@@ -6,8 +6,6 @@
 #include "support/probes.h"
 #include "support/text.h"
 
-#include <functional>
-
 namespace quillane {
 
 namespace {
@@ -70,35 +68,6 @@ TEST_F(Vistrel3GTest, DesktopCells) {
   }
 }
 
-TEST_F(Vistrel3GTest, SoftkeyBoxesAndRightLabels) {
-  const auto standby = [&] { engine.DrawStandby(); };
-  const auto desktop = [&] { engine.DrawDesktop(); };
-  const auto pressed = [&] { engine.DrawSoftkeys(1); };
-  const QRect plain(102, 150, 26, 9);
-  const QRect deep = plain.translated(1, 1);  // Its shadow, or where it is when pressed.
-  using Row = std::tuple<const char*, std::function<void()>, QString, QRect, QRect, QRect, QRect>;
-  const Row table[] = {{"gap", standby, "|MNH", {7, 148, 53, 15}, {80, 148, 51, 15}, plain, deep},
-                       {"one label", desktop, "", {7, 148, 61, 15}, {}, {}, {}},
-                       {"two", desktop, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain, deep},
-                       {"three", desktop, "|MNH|", {7, 148, 61, 15}, {}, {}, {}},
-                       {"pressed", pressed, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, deep, {}}};
-  engine.setColor(gen3g::SoftkeysBackgroundColor, "0000FF");
-  engine.setColor(gen3g::SoftkeysBackgroundActivatedColor, "00FFFF");
-  engine.setColor(gen3g::SoftkeysTextColor, "FF0000");
-  engine.setColor(gen3g::SoftkeysTextShadowColor, "00FF00");
-  for (const auto& [name, draw, labels, left, right, label, shadow] : table) {
-    engine.StandbySoftkeyText = engine.SoftkeysSoftkeyText = labels;
-    engine.DesktopSoftkeyText = labels.isEmpty() ? " " : labels;
-    draw();
-    const QImage& image = surface.image();
-    const QRgb key = label == deep ? 0xFF00FFFF : 0xFF0000FF;
-    EXPECT_EQ(boundsOf(image, 0xFF0000FF, {0, 0, 69, 171}), left) << name;
-    EXPECT_EQ(boundsOf(image, key, {69, 0, 69, 171}), right) << name;
-    EXPECT_EQ(boundsOf(image, 0xFFFF0000), label) << name;
-    EXPECT_EQ(boundsOf(image, 0xFF00FF00), shadow) << name;
-  }
-}
-
 TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
   const auto fault = [&](auto draw) { return faultNumberOf([&] { (engine.*draw)(); }); };
   const auto softkeys = [&](int i) { return faultNumberOf([&] { engine.DrawSoftkeys(i); }); };
@@ -108,13 +77,6 @@ TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
   const QRect gap(60, 151, 20, 11);
   EXPECT_EQ(part(gap), iconsOn(kGround, {}).copy(gap)) << "the symbol is not";
 
-  engine.DesktopTitles = "1|2|3|4";
-  EXPECT_EQ(fault(&clsVistrel3G::DrawDesktop), 9);
-  EXPECT_EQ(pixel(7, 148), kMargin) << "no soft keys";
-
-  engine.SoftkeysMenuText1 = "a|b|c|d|e";
-  EXPECT_EQ(softkeys(0), 9);
-  EXPECT_EQ(softkeys(1), 0);
   engine.SoftkeysMenuTitleText = "1|2|3";
   EXPECT_EQ(softkeys(2), 9);
   EXPECT_EQ(pixel(7, 148), kMargin) << "no third sample";
