@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lists, calendars and windows of 3G; the reference sheets hold the rest.
+// Lists and windows of 3G; the reference sheets hold the rest.
 #include "preview/screens.h"
 #include "support/probes.h"
 #include "support/tinygif.h"
@@ -9,20 +9,11 @@ namespace quillane {
 
 namespace {
 
-constexpr QRgb kGround = 0xFFC0DFFF;
-constexpr QRgb kBlack = 0xFF000000;
 constexpr QRgb kWhite = 0xFFFFFFFF;
 
 class Vistrel3GScreensTest : public EngineTest<clsVistrel3G> {
  protected:
   Vistrel3GScreensTest() : EngineTest(Surface::kSize3G) { fillPhone(engine); }
-
-  int menu(int index) {
-    return faultNumberOf([&] { engine.DrawMenu(index); });
-  }
-  int popupMenu(int index) {
-    return faultNumberOf([&] { engine.DrawPopupMenu(index); });
-  }
 };
 
 TEST_F(Vistrel3GScreensTest, FlagsChooseHighlightAndColourOfARow) {
@@ -41,39 +32,15 @@ TEST_F(Vistrel3GScreensTest, FlagsChooseHighlightAndColourOfARow) {
       for (const gen3g::Color color : texts[which])
         engine.setColor(color, which == text ? "00FF00" : "FF0000");
     engine.MenuText1 = "--|" + QString(entry) + "||||";
-    ASSERT_EQ(menu(0), 0);
+    engine.DrawMenu(0);
     EXPECT_EQ(boundsOf(surface.image(), 0xFFFF00FF), highlighted ? QRect(5, 61, 123, 16) : QRect());
     EXPECT_TRUE(QRect(9, 62, 30, 13).contains(boundsOf(surface.image(), kGreen))) << entry;
     EXPECT_TRUE(boundsOf(surface.image(), kRed).isNull()) << entry;
     engine.MoreListMenuText1 = "--|" + QString(entry) + "|||";
-    ASSERT_EQ(popupMenu(0), 0);
+    engine.DrawPopupMenu(0);
     EXPECT_EQ(boundsOf(surface.image(), 0xFFFF00FF),
               highlighted ? QRect(10, 72, 113, 16) : QRect());
     EXPECT_TRUE(QRect(13, 73, 30, 13).contains(boundsOf(surface.image(), kGreen))) << entry;
-  }
-}
-
-TEST_F(Vistrel3GScreensTest, AListTooShortEndsTheMenuAndRepeatsInTheMoreList) {
-  engine.MenuText1 = "--a|--b|H-c";
-  engine.MoreListMenuText1 = "--a|H-b";
-  EXPECT_EQ(menu(0), 9);
-  EXPECT_EQ(pixel(6, 79), 0xFF1E396C) << "the third row is there";
-  EXPECT_EQ(pixel(130, 60), kGround) << "the scroll bar is not";
-  EXPECT_EQ(pixel(7, 148), kMargin) << "nor are the keys";
-  EXPECT_EQ(popupMenu(0), 0);
-  const QRect second(10, 72, 113, 16);
-  for (int row = 1; row <= 3; ++row)
-    EXPECT_EQ(part(second.translated(0, 17 * row)), part(second)) << row;
-  EXPECT_EQ(pixel(7, 148), 0xFFBDBDBD);
-
-  for (const int index : {-1, 2}) {
-    engine.TitleText = "a|b|c";
-    EXPECT_EQ(menu(index), 9) << index;
-    EXPECT_EQ(pixel(6, 100), index < 0 ? kMargin : kGround) << index;
-    EXPECT_EQ(popupMenu(index), 0) << index;
-    EXPECT_EQ(pixel(60, 80), kWhite) << "no rows";
-    EXPECT_EQ(pixel(125, 60), 0xFF173E62) << index;
-    EXPECT_EQ(pixel(7, 148), kMargin) << "no label, no keys";
   }
 }
 
@@ -96,7 +63,7 @@ TEST_F(Vistrel3GScreensTest, SomeScreensSkipWhatFailsAndTheOthersEnd) {
   EXPECT_EQ(skipped, skipping.size());
   engine.setImage(gen3g::MoreListPopupTitleImage, none);
   engine.setImage(gen3g::MoreListPopupHighlightImage, green);
-  EXPECT_EQ(popupMenu(0), 0);
+  engine.DrawPopupMenu(0);
   EXPECT_EQ(pixel(12, 40), kWhite) << "the popup's ground stays";
   EXPECT_EQ(boundsOf(surface.image(), kGreen, {10, 54, 113, 87}), QRect(10, 89, 113, 16));
 }
@@ -112,34 +79,6 @@ TEST_F(Vistrel3GScreensTest, LinesOfANoteAreCentred) {
     EXPECT_EQ(inked.top(), lines == 0 ? 0 : kTops[lines] + 2) << lines;
     EXPECT_EQ(inked.height(), lines == 0 ? 0 : 13 * (std::min(lines, 6) - 1) + kCap) << lines;
   }
-}
-
-TEST_F(Vistrel3GScreensTest, TheCalendarMarksToday) {
-  const std::tuple<QDate, int, int> table[] = {// Column and row.
-                                               {{2003, 9, 1}, 0, 0},  {{2003, 6, 14}, 5, 2},
-                                               {{2002, 12, 1}, 6, 0}, {{2002, 12, 31}, 1, 5},
-                                               {{2010, 2, 28}, 6, 3}, {{2004, 2, 29}, 6, 4}};
-  for (const auto& [today, column, row] : table) {
-    world.time.setDate(today);
-    engine.DrawCalendar();
-    for (int cell = 0; cell < 42; ++cell) {
-      const QRgb corner = pixel(10 + 17 * (cell % 7), 58 + 14 * (cell / 7));
-      EXPECT_EQ(corner, cell == 7 * row + column ? kBlack : kWhite) << cell;
-    }
-  }
-}
-
-TEST_F(Vistrel3GScreensTest, TheWeekIsThatOfTheComingSaturday) {
-  const auto weekOf = [&](int day) {
-    world.time.setDate({2003, 6, day});
-    engine.DrawWeekCalendar();
-    return surface.image();
-  };
-  const QImage saturday = weekOf(14);
-  for (int day = 8; day < 14; ++day)
-    EXPECT_EQ(weekOf(day), saturday) << day;
-  EXPECT_NE(weekOf(7), saturday);
-  EXPECT_NE(weekOf(15), saturday);
 }
 
 /// The font lives across operations, so each screen must set what it needs.

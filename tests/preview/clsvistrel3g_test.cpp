@@ -6,25 +6,16 @@
 #include "support/probes.h"
 #include "support/text.h"
 
-#include <functional>
-
 namespace quillane {
 
 namespace {
 
 constexpr QRgb kGround = 0xFFC0DFFF;
 constexpr QRgb kDesktopGround = 0xFFBFD3E8;
-constexpr QRgb kImage = 0xFF00AA00;
 
 class Vistrel3GTest : public EngineTest<clsVistrel3G> {
  protected:
   Vistrel3GTest() : EngineTest(Surface::kSize3G) { fillPhone(engine); }
-
-  QString file(QSize size) const {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(kImage);
-    return save(image);
-  }
 };
 
 TEST(BoundedTest, ANumberOutOfItsRangeBecomesAFixedOne) {
@@ -39,43 +30,12 @@ TEST(BoundedTest, ANumberOutOfItsRangeBecomesAFixedOne) {
     EXPECT_EQ(property = low, low) << name;
     EXPECT_EQ(property = high + 1, otherwise) << name;
   };
-  check("signal", two.SignalStrength, 0, 5, 5);
-  check("battery", two.BatteryLevel, 0, 10, 10);
-  check("GPRS", two.GPRSRange, 0, 1, 1);
   check("line", two.LineIcon, 1, 2, 1);
   check("desktop", two.DesktopIcon, 0, 9, 5);
-  check("3G signal", three.SignalStrength, 0, 5, 5);
-  check("3G battery", three.BatteryLevel, 0, 10, 10);
-  check("3G GPRS", three.GPRSRange, 0, 1, 1);
   check("3G desktop", three.DesktopIcon, 1, 12, 5);
   EXPECT_FALSE(three.DrawImages);
   two.CalendarDateFormat = QString();
   EXPECT_EQ(static_cast<const QString&>(two.CalendarDateFormat), "mmm yyyy");
-}
-
-TEST_F(Vistrel3GTest, ImagesAreCutToTheirZones) {
-  const auto standby = [&] { engine.DrawStandby(); };
-  const auto desktop = [&] { engine.DrawDesktop(); };
-  const auto list = [&] { engine.DrawSoftkeys(0); };
-  const std::tuple<gen3g::Image, std::function<void()>, QSize, QRect> table[] = {
-      {gen3g::StatusbarBackgroundImage, standby, {200, 200}, {5, 5, 128, 14}},
-      {gen3g::WallpaperImage, standby, {200, 200}, {5, 19, 128, 127}},
-      {gen3g::DesktopBackgroundImage, desktop, {200, 200}, {5, 19, 128, 127}},
-      {gen3g::TitleImage, list, {200, 200}, {5, 19, 128, 23}},
-      {gen3g::GeneralBackgroundImage, list, {200, 200}, {5, 42, 123, 104}},  // Beside the bar.
-      {gen3g::HighlightImage, list, {200, 200}, {5, 44, 123, 16}},
-      {gen3g::SoftkeysBackgroundImage, desktop, {200, 200}, {5, 146, 128, 19}},
-      {gen3g::SoftkeysBackgroundImage, list, {130, 22}, {5, 146, 130, 22}},  // Not this one.
-  };
-  for (const auto& [slot, draw, size, shown] : table) {
-    engine.DefaultColors();
-    engine.setImage(slot, file(size));
-    draw();
-    EXPECT_EQ(boundsOf(surface.image(), kImage), shown) << slot;
-  }
-  engine.setImage(gen3g::StatusbarBackgroundImage, file({60, 14}));
-  engine.DrawStandby();
-  EXPECT_EQ(pixel(65, 5), 0xFF000000) << "black beside what the image leaves";
 }
 
 TEST_F(Vistrel3GTest, StatusIconsAndTheSymbolBetweenTheKeys) {
@@ -108,45 +68,6 @@ TEST_F(Vistrel3GTest, DesktopCells) {
   }
 }
 
-TEST_F(Vistrel3GTest, SoftkeyBoxesAndRightLabels) {
-  const auto standby = [&] { engine.DrawStandby(); };
-  const auto desktop = [&] { engine.DrawDesktop(); };
-  const auto pressed = [&] { engine.DrawSoftkeys(1); };
-  const QRect plain(102, 150, 26, 9);
-  const QRect deep = plain.translated(1, 1);  // Its shadow, or where it is when pressed.
-  using Row = std::tuple<const char*, std::function<void()>, QString, QRect, QRect, QRect, QRect>;
-  const Row table[] = {{"gap", standby, "|MNH", {7, 148, 53, 15}, {80, 148, 51, 15}, plain, deep},
-                       {"one label", desktop, "", {7, 148, 61, 15}, {}, {}, {}},
-                       {"two", desktop, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, plain, deep},
-                       {"three", desktop, "|MNH|", {7, 148, 61, 15}, {}, {}, {}},
-                       {"pressed", pressed, "|MNH", {7, 148, 61, 15}, {70, 148, 61, 15}, deep, {}}};
-  engine.setColor(gen3g::SoftkeysBackgroundColor, "0000FF");
-  engine.setColor(gen3g::SoftkeysBackgroundActivatedColor, "00FFFF");
-  engine.setColor(gen3g::SoftkeysTextColor, "FF0000");
-  engine.setColor(gen3g::SoftkeysTextShadowColor, "00FF00");
-  for (const auto& [name, draw, labels, left, right, label, shadow] : table) {
-    engine.StandbySoftkeyText = engine.SoftkeysSoftkeyText = labels;
-    engine.DesktopSoftkeyText = labels.isEmpty() ? " " : labels;
-    draw();
-    const QImage& image = surface.image();
-    const QRgb key = label == deep ? 0xFF00FFFF : 0xFF0000FF;
-    EXPECT_EQ(boundsOf(image, 0xFF0000FF, {0, 0, 69, 171}), left) << name;
-    EXPECT_EQ(boundsOf(image, key, {69, 0, 69, 171}), right) << name;
-    EXPECT_EQ(boundsOf(image, 0xFFFF0000), label) << name;
-    EXPECT_EQ(boundsOf(image, 0xFF00FF00), shadow) << name;
-  }
-}
-
-TEST_F(Vistrel3GTest, EveryRowRollsTheDiceAnew) {
-  for (const double random : {0.49, 0.5}) {
-    world.nextRandom = random;
-    engine.DrawSoftkeys(0);
-    const std::vector<PlacedIcon> box{{random < 0.5 ? 2500 : 2501, {10, 127}}};
-    EXPECT_EQ(part({10, 127, 10, 10}), iconsOn(kGround, box).copy(10, 127, 10, 10)) << random;
-  }
-  EXPECT_EQ(world.reseeded, 2 * 5);
-}
-
 TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
   const auto fault = [&](auto draw) { return faultNumberOf([&] { (engine.*draw)(); }); };
   const auto softkeys = [&](int i) { return faultNumberOf([&] { engine.DrawSoftkeys(i); }); };
@@ -156,13 +77,6 @@ TEST_F(Vistrel3GTest, FaultsRiseAndLeaveWhatWasPainted) {
   const QRect gap(60, 151, 20, 11);
   EXPECT_EQ(part(gap), iconsOn(kGround, {}).copy(gap)) << "the symbol is not";
 
-  engine.DesktopTitles = "1|2|3|4";
-  EXPECT_EQ(fault(&clsVistrel3G::DrawDesktop), 9);
-  EXPECT_EQ(pixel(7, 148), kMargin) << "no soft keys";
-
-  engine.SoftkeysMenuText1 = "a|b|c|d|e";
-  EXPECT_EQ(softkeys(0), 9);
-  EXPECT_EQ(softkeys(1), 0);
   engine.SoftkeysMenuTitleText = "1|2|3";
   EXPECT_EQ(softkeys(2), 9);
   EXPECT_EQ(pixel(7, 148), kMargin) << "no third sample";

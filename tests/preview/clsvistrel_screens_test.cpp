@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Menus, popups and calendar of generation 2; the reference sheets hold the rest.
+// Menus and popups of generation 2; the reference sheets hold the rest.
 #include "preview/clsvistrel.h"
 #include "support/probes.h"
 #include "support/tinygif.h"
@@ -27,60 +27,6 @@ class VistrelScreensTest : public EngineTest<clsVistrel> {
   }
 };
 
-TEST_F(VistrelScreensTest, RowsOfTheMenus) {
-  struct Rows {
-    int count, firstTop, firstHeight, lastTop;
-  };
-  // Height of a highlight, and the rows without and with a title image.
-  const std::tuple<Draw, QString clsVistrel::*, gen2::Image, int, Rows, Rows> table[] = {
-      {&clsVistrel::DrawMenuSmall,
-       &clsVistrel::MenuSmallText,
-       gen2::TitleImageSmall,
-       11,
-       {7, 15, 10, 74},
-       {6, 24, 11, 74}},  // The bar covers the first one's top.
-      {&clsVistrel::DrawMenuMedium,
-       &clsVistrel::MenuMediumText,
-       gen2::TitleImageMedium,
-       14,
-       {5, 19, 14, 71},
-       {4, 32, 14, 71}},
-      {&clsVistrel::DrawMenuLarge,
-       &clsVistrel::MenuLargeText,
-       gen2::TitleImageLarge,
-       15,
-       {4, 22, 15, 67},
-       {4, 22, 15, 67}}};
-  engine.setColor(gen2::HighlightColor, "FF0000");
-  for (const auto& [draw, list, slot, height, plain, belowImage] : table)
-    for (const bool image : {false, true}) {
-      const Rows& rows = image ? belowImage : plain;
-      engine.setImage(slot, image ? gif({101, 8}) : QString());
-      engine.*list = "H-1" + QString("|--2").repeated(rows.count - 1);
-      EXPECT_EQ(boundsOf(drawn(draw), kRed), QRect(5, rows.firstTop, 101, rows.firstHeight))
-          << slot;
-      engine.*list = QString("--1|").repeated(rows.count - 1) + "H-2|H-3";
-      EXPECT_EQ(boundsOf(drawn(draw), kRed), QRect(5, rows.lastTop, 101, height)) << slot;
-    }
-}
-
-TEST_F(VistrelScreensTest, FlagsChooseTheColourOfARow) {
-  engine.setColor(gen2::HighlightColor, "FFFFFF");
-  engine.setColor(gen2::TextColor, "FF0000");
-  engine.setColor(gen2::DisabledTextColor, "00FF00");
-  engine.setColor(gen2::HighlightTextColor, "0000FF");
-  engine.setColor(gen2::HighlightDisabledTextColor, "FFFF00");
-  const std::pair<const char*, QRgb> table[] = {{"--1Row", kRed},       {"-D1Row", kGreen},
-                                                {"H-1Row", 0xFF0000FF}, {"HD1Row", 0xFFFFFF00},
-                                                {"xH1Row", kRed},       {"h-1Row", kRed}};
-  for (const auto& [entry, color] : table) {
-    engine.MenuLargeText = QString(entry) + "|--";
-    const QImage image = drawn(&clsVistrel::DrawMenuLarge);
-    EXPECT_FALSE(boundsOf(image, color, {6, 25, 5, 12}).isNull()) << entry << ", digit";
-    EXPECT_FALSE(boundsOf(image, color, {13, 22, 93, 15}).isNull()) << entry << ", label";
-  }
-}
-
 TEST_F(VistrelScreensTest, TitleImagesAreShownWholeOrCropped) {
   // The height that the picture is placed by may be one less than its own: 27 counts as 26.
   const std::tuple<Draw, gen2::Image, int, bool, int> table[] = {
@@ -98,21 +44,6 @@ TEST_F(VistrelScreensTest, TitleImagesAreShownWholeOrCropped) {
     EXPECT_EQ(pixel(5, 5), kGreen) << "no corner";
     engine.setImage(slot, path("none.gif"));
     EXPECT_EQ(boundsOf(drawn(draw), kGround).topLeft(), kScreen.topLeft()) << "and no bar";
-  }
-}
-
-TEST_F(VistrelScreensTest, AMissingRowRepeatsTheOneBefore) {
-  const std::tuple<Draw, QString clsVistrel::*, QRect, int> table[] = {
-      {&clsVistrel::DrawMenuMedium, &clsVistrel::MenuMediumText, {5, 32, 101, 13}, 13},
-      {&clsVistrel::DrawPopupMenu, &clsVistrel::PopupMenuText, {10, 38, 90, 13}, 13}};
-  for (const auto& [draw, list, second, step] : table) {
-    engine.*list = "--1Up|H-2Down";
-    const QImage image = drawn(draw);
-    EXPECT_EQ(image.copy(second), image.copy(second.translated(0, step)));
-    EXPECT_NE(image.copy(second), image.copy(second.translated(0, -step)));
-    engine.*list = QString();
-    const QImage empty = drawn(draw);
-    EXPECT_EQ(boundsOf(empty, empty.pixel(second.center()), second), second) << "no rows";
   }
 }
 
@@ -157,22 +88,6 @@ TEST_F(VistrelScreensTest, TheWindowKeepsThePaddingAndTheTitleBarDoesNot) {
     EXPECT_EQ(engine.PopupPaddingLeftTop, "3 5");
   }
   EXPECT_NE(faultNumberOf([&] { engine.DrawWindow("nocolr"); }), 0);
-}
-
-TEST_F(VistrelScreensTest, TheSaturdayOfTheThirdRowIsMarkedWhateverTheDay) {
-  engine.setColor(gen2::CalendarWeekendHighlightColor, "FFFFFF");
-  engine.setColor(gen2::CalendarWeekendHighlightTextColor, "00FF00");
-  engine.setColor(gen2::CalendarWeekendTextColor, "FF0000");
-  for (const QDate& month : {QDate(2003, 6, 1), QDate(2003, 9, 1)}) {  // From a Sunday, a Monday.
-    world.time.setDate(month);
-    const QImage first = drawn(&clsVistrel::DrawCalendar);
-    EXPECT_TRUE(QRect(76, 41, 15, 12).contains(boundsOf(first, kGreen)));
-    EXPECT_TRUE(boundsOf(first, kRed, {76, 41, 15, 12}).isNull());
-    for (int day = 1; day <= 30; ++day) {
-      world.time.setDate({month.year(), month.month(), day});
-      EXPECT_EQ(drawn(&clsVistrel::DrawCalendar), first) << day;
-    }
-  }
 }
 
 TEST_F(VistrelScreensTest, FailingStepsOfTheOtherScreensAreSkipped) {

@@ -17,13 +17,6 @@ namespace {
 
 class Files : public TempFolder {};
 
-TEST_F(Files, SplitsAtTheLastSeparator) {
-  EXPECT_EQ(SplitPath("/a/b/c.thm", PathPart::Name), "c.thm");
-  EXPECT_EQ(SplitPath("/a/b/c.thm", PathPart::Folder), "/a/b/");
-  EXPECT_EQ(SplitPath("c.thm", PathPart::Name), "c.thm");
-  EXPECT_EQ(SplitPath("c.thm", PathPart::Folder), "");
-}
-
 TEST_F(Files, FindsHiddenFilesAndPatternsButNoFolders) {
   write(".hidden", "x");
   makeFolder("folder");

@@ -73,14 +73,6 @@ TEST_F(ImageRules, SlotsTakeTheirSizes) {
         << slot << ' ' << size.width() << ' ' << size.height();
 }
 
-TEST_F(ImageRules, MessagesNameSlotAndSizes) {
-  const ImageElement& small = schemaOf(Generation::Two).images[gen2::TitleImageSmall];
-  EXPECT_EQ(imageDialogTitle(small), "Select title small image");
-  EXPECT_EQ(imageDimensionsText(small, "/x/a%1.gif", {10, 20}),
-            "The dimensions for title small image must be 101x20 pixels.\r\n\r\n"
-            "Selected image: \"a%1.gif\"\r\nDimensions: 10x20 pixels");
-}
-
 }  // namespace
 
 }  // namespace quillane

@@ -4,11 +4,9 @@
 
 #include "preview/faces.h"
 #include "preview/pipelist.h"
+#include "preview/screens.h"
 #include "shell/ini.h"
-#include "shell/settings.h"
-#include "shell/state.h"
-#include "support/stillworld.h"
-#include "support/tempfolder.h"
+#include "support/probes.h"
 #include "theme/codepage.h"
 
 #include <QDir>
@@ -35,62 +33,6 @@ QByteArray shippedFile(const QString& folder, const QString& name) {
   QFile file(LANGUAGE_FOLDER "/" + folder + '/' + name);
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));
   return file.readAll();
-}
-
-/// The shipped file of a generation with "!" behind each value.
-QByteArray markedFile(const QString& folder) {
-  return shippedFile(folder, "english.lng").replace("\r\n", "!\r\n").replace("]!", "]");
-}
-
-/// Every text of an engine, as the shipped file has it when nothing else is said.
-template <class Engine, std::size_t Count>
-void expectMarked(const Engine& engine, const Engine& standard,
-                  QString Engine::*const (&texts)[Count]) {
-  for (const auto text : texts)
-    EXPECT_EQ(engine.*text, standard.*text + '!');
-}
-
-TEST_F(Language, TakesEveryTextOfTheFile) {
-  write("2/own.lng", markedFile("2"));
-  write("3G/own.lng", markedFile("3G"));
-  clsVistrel standard2(world), engine2(world);
-  clsVistrel3G standard3G(world), engine3G(world);
-  InitPreview2(standard2, state, settings, log.reporter());
-  InitPreview3G(standard3G, state, settings, log.reporter());
-  state.ConfigFolder2 = path("2/");
-  state.ConfigFolder3G = path("3G/");
-  state.LanguageFile2 = state.LanguageFile3G = "own.lng";
-  InitPreview2(engine2, state, settings, log.reporter());
-  InitPreview3G(engine3G, state, settings, log.reporter());
-
-  using T = clsVistrel;
-  expectMarked(engine2, standard2,
-               {&T::DesktopTitle, &T::TitleText, &T::MenuSmallText, &T::MenuMediumText,
-                &T::MenuLargeText, &T::PromptText, &T::PopupTitleText, &T::PopupMenuList1,
-                &T::PopupMenuList2, &T::PopupPromptText, &T::PopupWindowText, &T::NotesText});
-  EXPECT_EQ(engine2.PopupMenuText, engine2.PopupMenuList1);
-  EXPECT_TRUE(log.texts().isEmpty());
-  using G = clsVistrel3G;
-  expectMarked(engine3G, standard3G,
-               {&G::StandbySoftkeyText, &G::DesktopTitles, &G::DesktopSoftkeyText, &G::TitleText,
-                &G::MenuText1, &G::MenuText2, &G::MenuSoftkeyText, &G::MoreListTitleText,
-                &G::MoreListMenuText1, &G::MoreListMenuText2, &G::MoreListSoftkeyText,
-                &G::SoftkeysMenuTitleText});
-  expectMarked(engine3G, standard3G,
-               {&G::SoftkeysMenuText1, &G::SoftkeysMenuText2, &G::SoftkeysSoftkeyText,
-                &G::CalendarDaysOfWeek, &G::CalendarSoftkeyText, &G::NotesText,
-                &G::WapbrowserTitleText, &G::WapbrowserSoftkeyText, &G::ProgressWindowText,
-                &G::AcceptWindowText, &G::AcceptWindowSoftkeyText});
-}
-
-TEST_F(Language, Fills3GAndSwitchesImagesOn) {
-  settings.write(setting::DesktopIcon3G, "12");
-  settings.write(setting::DateFormat3G, "yymmdd");
-  clsVistrel3G engine(world);
-  InitPreview3G(engine, state, settings, log.reporter());
-  EXPECT_TRUE(engine.DrawImages);
-  EXPECT_EQ(engine.DesktopIcon, 12);
-  EXPECT_EQ(engine.DateFormat, "yymmdd");
 }
 
 TEST_F(Language, ReportsASettingThatIsNoNumberAndGoesOn) {
@@ -145,6 +87,38 @@ const std::vector<Row> kRows3G{{"Standby", "SoftkeysText", 0, {8}, true, 50},
                                {"ProgressWindow", "Text", 0, {8}, true, 106},
                                {"AcceptWindow", "Text", 0, {8}, true, 115},
                                {"AcceptWindow", "SoftkeysText", 0, {8}, true, 58}};
+
+/// All screens with the texts of a file.
+template <class Engine>
+QList<QImage> paintedWith(const QString& file, std::span<const Screen<Engine>> screens,
+                          QSize size) {
+  StillWorld world;
+  Engine engine(world);
+  fillPhone(engine, file);
+  QList<QImage> pictures;
+  for (const Screen<Engine>& screen : screens) {
+    Surface surface(size);
+    engine.setSurface(surface);
+    faultNumberOf([&] { screen.paint(engine); });  // A list may be too short.
+    pictures += surface.image();
+  }
+  return pictures;
+}
+
+TEST_F(Language, EveryTextOfTheFileReachesAScreen) {
+  const auto expectShown = [this](const QString& folder, const std::vector<Row>& rows, auto screens,
+                                  QSize size) {
+    const QList<QImage> standard = paintedWith({}, screens, size);
+    EXPECT_EQ(paintedWith(LANGUAGE_FOLDER "/" + folder + "/english.lng", screens, size), standard);
+    for (const Row& row : rows) {
+      const QString text = QString("[%1]\n%2=--X\n").arg(row.section, row.key);
+      EXPECT_NE(paintedWith(write("one.lng", text.toLatin1()), screens, size), standard)
+          << text.toStdString();
+    }
+  };
+  expectShown("2", kRows2, screensOfGeneration2(), Surface::kSize2);
+  expectShown("3G", kRows3G, screensOf3G(), Surface::kSize3G);
+}
 
 QString shippedValue(const QString& ini, const char* section, const char* key) {
   QString value = iniValue(ini, section, key, "");

@@ -83,15 +83,9 @@ TEST_F(Start, EmptiesTheWorkFolder) {
 TEST_F(Start, SettlesTheFolders) {
   const std::tuple<const Setting&, QString PublicState::*, const char*> rows[] = {
       {setting::ThemesFolder, &PublicState::ThemesFolder, "My Themes/"},
-      {setting::CopyMoveFolder, &PublicState::CopyMoveFolder, "My Themes/"},
       {setting::BrowseFolder, &PublicState::BrowseFolder, "My Themes/"},
       {setting::ImageFolder, &PublicState::ImageFolder, ""},
-      {setting::CaptureFolder, &PublicState::CaptureFolder, ""},
-      {setting::ExtractFolder, &PublicState::ExtractFolder, ""},
       {setting::ExportFolder, &PublicState::ExportFolder, ""},
-      {setting::ImportFolder, &PublicState::ImportFolder, ""},
-      {setting::TARWizFilesFolder, &PublicState::TARWizFilesFolder, ""},
-      {setting::ImageWizOpenFolder, &PublicState::ImageWizOpenFolder, ""},
       {setting::ImageWizSaveFolder, &PublicState::ImageWizSaveFolder, ""}};
   makeFolder("home/My Themes");
   start();

@@ -61,16 +61,12 @@ TEST(CloseColors, AreCloseBelowTheLimit) {
       {"Highlight=000014 HighlightText=000000", true, false},
       {"Highlight=00000F HighlightText=101010", false, false},
       {"Highlight=000000 HighlightText=0A0B0A", true, false},
-      {"Highlight=000000 HighlightText=0A0B0B", false, false}};
+      {"Highlight=000000 HighlightText=0A0B0B", false, false},
+      {"Highlight= HighlightText=000001", true, true}};
   for (const auto& [words, two, threeG] : rows) {
     EXPECT_EQ(!closeWith(Generation::Two, words).isEmpty(), two) << words;
     EXPECT_EQ(!closeWith(Generation::ThreeG, words).isEmpty(), threeG) << words;
   }
-}
-
-TEST(CloseColors, TakeAnEmptyColourForBlack) {
-  EXPECT_EQ(closeWith(Generation::ThreeG, "Highlight= HighlightText=000001"),
-            "Highlight HighlightText");
 }
 
 }  // namespace

@@ -32,14 +32,6 @@ TEST(Color, TurnsDigitsIntoAValueAndPadsThemInPlace) {
   }
 }
 
-TEST(Color, KnowsThePartsOfAValue) {
-  const ColorValue value = colorValueOf("a1B2c3") | 0xFF000000U;
-  EXPECT_EQ(value, 0xFFC3B2A1U);
-  EXPECT_EQ(RedOf(value), 0xA1);
-  EXPECT_EQ(GreenOf(value), 0xB2);
-  EXPECT_EQ(BlueOf(value), 0xC3);
-}
-
 TEST(Color, RefusesWhatIsNoNumber) {
   for (const char* const html : {"GG0000", "0x1234", "+12345", " 12345", "12345 ", "-1"})
     EXPECT_EQ(faultNumberOf([&] { colorValueOf(html); }), 13) << html;
@@ -54,13 +46,8 @@ QByteArray everyByte() {
   return bytes;
 }
 
-TEST(CodePage, KeepsEveryByte) {
-  const QString text = fromCodePage(everyByte());
-  EXPECT_EQ(text.size(), 256);
-  EXPECT_EQ(toCodePage(text), everyByte());
-}
-
-TEST(CodePage, AgreesWithTheToolkitWhereThatKnowsIt) {
+TEST(CodePage, KeepsEveryByteAndAgreesWithTheToolkitWhereThatKnowsIt) {
+  EXPECT_EQ(toCodePage(fromCodePage(everyByte())), everyByte());
   QStringDecoder decoder("windows-1252");
   if (!decoder.isValid()) GTEST_SKIP() << "This build of Qt has no such decoder.";
   EXPECT_EQ(fromCodePage(everyByte()), QString(decoder(everyByte())));

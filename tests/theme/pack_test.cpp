@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/hindrance.h"
 #include "support/tempfolder.h"
 #include "theme/archive.h"
 #include "theme/values.h"
@@ -85,22 +84,6 @@ TEST_F(Pack, GivesRecordsToTheMemberThatNeedsThemAlone) {
   EXPECT_EQ(read("out/" + umlauts), "3");
 }
 
-TEST_F(Pack, LeavesTheOldArchiveWhereItFails) {
-  const QString good = makeFile("good.gif", QByteArray(4096, 'g'));
-  const QString secret = makeFile("secret.gif", "x");
-  ASSERT_TRUE(QFile::setPermissions(secret, QFile::WriteOwner));
-  write("t.thm", "old");
-  EXPECT_EQ(packNumber({good, path("missing.gif")}), 53);
-  EXPECT_EQ(packNumber({good, path()}), 53);
-  {
-    const WithoutPrivilege nobody;
-    EXPECT_EQ(packNumber({secret}), 70);
-  }
-  EXPECT_EQ(read("t.thm"), "old");
-  EXPECT_EQ(listOf(""), QStringList({"good.gif", "secret.gif", "t.thm"}));
-  EXPECT_EQ(faultNumberOf([&] { packArchive(path("none/t.thm"), {good}); }), 53);
-}
-
 TEST_F(Pack, TakesAsMuchAsTheReader) {
   const auto sized = [this](const QString& name, qint64 size) {
     EXPECT_TRUE(QFile::resize(makeFile(name, ""), size));
@@ -129,15 +112,6 @@ TEST_F(Pack, TakesAsMuchAsTheReader) {
   }
 }
 
-TEST_F(Pack, ListsNamesAndSizes) {
-  const QStringList files{makeFile("New Theme.XML", "12345"), makeFile("\u00DC.gif", "")};
-  const QByteArray index = "new theme.xml <5>\r\n\xFC.gif <0>";
-  EXPECT_EQ(themeIndex(files, IndexEnd::Bare), index);
-  EXPECT_EQ(themeIndex(files, IndexEnd::LineEnd), index + "\r\n");
-  EXPECT_EQ(themeIndex({}, IndexEnd::LineEnd), "");
-  EXPECT_EQ(faultNumberOf([&] { themeIndex({path("missing")}, IndexEnd::Bare); }), 53);
-}
-
 TEST_F(Pack, LeavesAPipeInItsPlace) {
   const QString pipe = path("pipe.thm");
   ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
@@ -145,21 +119,13 @@ TEST_F(Pack, LeavesAPipeInItsPlace) {
   EXPECT_TRUE(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
 }
 
-TEST(ThemeImages, FollowTheTableAndLeaveOutSharedOnesOfGeneration2) {
+TEST(ThemeImages, OfGeneration2LeaveOutSharedOnes) {
   ThemeValues two(Generation::Two);
   two.setImage(gen2::BackgroundImage, "/t/back.gif");
   two.setImage(gen2::DesktopBackgroundImage, "/T/Back.gif");
   two.setImage(gen2::TitleImageLarge, "/t/large.gif");
-  two.setImage(gen2::TitleImageAsian, "/t/asian.gif");
-  EXPECT_EQ(themeImages(two), (QStringList{"/t/back.gif", "/t/large.gif", "/t/asian.gif"}));
   two.setImage(gen2::TitleImageAsian, "/t/LARGE.gif");
   EXPECT_EQ(themeImages(two), (QStringList{"/t/back.gif", "/t/large.gif"}));
-
-  ThemeValues threeG(Generation::ThreeG);
-  threeG.setImage(gen3g::DesktopBackgroundImage, "/t/a.gif");
-  threeG.setImage(gen3g::WallpaperImage, "/t/a.gif");
-  threeG.setImage(gen3g::StatusbarBackgroundImage, "/t/s.gif");
-  EXPECT_EQ(themeImages(threeG), (QStringList{"/t/s.gif", "/t/a.gif", "/t/a.gif"}));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "theme/parsexml.h"
 
 #include "support/text.h"
-#include "theme/tags.h"
 
 namespace quillane {
 
@@ -71,43 +70,6 @@ TEST(ParseXML, AnswersToOddTexts) {
     EXPECT_EQ(ParseXML("Title", row.xml, log.reporter()), row.value);
     EXPECT_EQ(log.texts(), row.faults);
   }
-}
-
-TEST(ParseXML, FindsNothingForANameThatNoTagCanHave) {
-  FaultLog log;
-  const QString xml = " Title  Color=\"0x12\"/>";
-  for (const char* name : {"", " Title", "Title ", "Title  Color"})
-    EXPECT_EQ(ParseXML(name, xml, log.reporter()), "") << name;
-  EXPECT_TRUE(log.texts().isEmpty());
-}
-
-/// Texts of a mebibyte on which a scan that starts over at each match would take hours.
-TEST(ParseXML, EndsSoonOnHostileTexts) {
-  constexpr int size = 1 << 20;
-  const QString names = QString("Title_").repeated(size / 6);
-  const QString blanks(size, u' ');
-  const std::tuple<const char*, QString, bool> rows[] = {
-      {"never closed", names, false},
-      {"closed at the end", names + "/>", true},
-      {"far tab", names + "\t/>", true},
-      {"far blank", names + " />", true},
-      {"blanks up to a far tab", QString("Title ").repeated(size / 6) + blanks + "x\t/>", true}};
-  for (const auto& [what, xml, closed] : rows) {
-    SCOPED_TRACE(what);
-    int faults = 0;
-    EXPECT_EQ(ParseXML("Title", xml, [&](const Fault&) { ++faults; }), "");
-    EXPECT_EQ(faults, closed ? 0 : size / 6);
-  }
-}
-
-TEST(ThemeTags, AreFoundInsideTheComment) {
-  const QString xml =
-      "<!--CreatedWithQuillane30187>\r\n<Theme_name Name=\"Blue \"sea\"/>\r\n"
-      "<Theme_created Time=\"1.2.2003 04:05\"/>\r\n<Theme_creator Name=\"\"/>-->";
-  FaultLog log;
-  const ThemeTagTexts expected{"Blue ", "", "", "1.2.2003 04:05"};
-  EXPECT_EQ(readThemeTags(xml, log.reporter()), expected);
-  EXPECT_TRUE(log.texts().isEmpty());
 }
 
 }  // namespace

@@ -19,20 +19,14 @@ constexpr const char* kWrongUses[][2] = {
     {"new|2", "\"2|3g OUT.thm\" is needed."},
     {"new|3|x.thm", "\"3\" is no generation, which is 2 or 3g."},
     {"new|2|x.thm|--set|Sound=FF0000", "Generation 2 has no colour \"Sound\"."},
-    {"new|2|x.thm|--set|Title_image_small=FF0000",
-     "Generation 2 has no colour \"Title_image_small\"."},
     {"new|3G|x.thm|--image|Title_image_small=x.gif", "3G has no image \"Title_image_small\"."},
     {"new|2|x.thm|--set|Title", "\"Title\" of --set has no \"=\" behind its element."},
     {"new|2|x.thm|--set|Title=FF000",
      "\"FF000\" of --set is no colour, which is six hexadecimal digits."},
-    {"edit|x.thm|y.thm|--set|Title=0xFF00",
-     "\"0xFF00\" of --set is no colour, which is six hexadecimal digits."},
     {"edit|x.thm|y.thm|--tag|Theme_size=1", "There is no authoring tag \"Theme_size\"."},
-    {"edit|x.thm|y.thm|z.thm", "\"z.thm\" is too much."},
     {"info|--jsn|x.thm", "Unknown option 'jsn'."},
     {"render|x.thm|--out|a|--sheet|b.png", "--out and --sheet exclude each other."},
     {"render|x.thm|--sheet=", "--sheet needs a path."},
-    {"render|x.thm|--signal|full", "\"full\" of --signal is no whole number."},
     {"render|x.thm|--gprs|on", "\"on\" of --gprs is no whole number."},
     {"render|x.thm|--border|wide", "\"wide\" of --border is none of none, single and default."},
     {"render|x.thm|--now|2003-02-30 10:00",
@@ -112,11 +106,6 @@ TEST_F(ToolTest, BinaryNeedsNoDisplayAndNoLocale) {
   EXPECT_EQ(runBinary({"info", foreign}), runTool({"info", foreign}));
   EXPECT_EQ(runBinary({"render", foreign, "--sheet", path("ß.png")}), kQuiet);
   EXPECT_FALSE(image("ß.png").isNull());
-}
-
-TEST_F(ToolTest, BinaryEndsWithTheStatus) {
-  EXPECT_EQ(runBinary({"xml", path("x")}), runTool({"xml", path("x")}));
-  EXPECT_EQ(runBinary({"nonsense"}), runTool({"nonsense"}));
 }
 
 }  // namespace
