@@ -85,7 +85,8 @@ int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString
                                [&](const Fault& fault) { streams.complain(fault.description()); });
   // What was warned of would be found once more in the archive, in other words.
   if (saved)
-    tellFindings(warnings.isEmpty() ? checkTheme(themePath) : closeColorFindings(theme.values),
+    tellFindings(warnings.isEmpty() ? checkTheme(themePath)
+                                    : closeColorFindings(theme.values) + checkPictures(themePath),
                  streams);
   return saved ? AllWell : NotDone;
 }

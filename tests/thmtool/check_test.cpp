@@ -329,6 +329,11 @@ TEST_F(Check, SavesTellWhatWillBeFound) {
   EXPECT_EQ(made, (ToolRun{AllWell, "",
                            "thmtool new: Title: \"0x\" is no colour, which is 0x and six "
                            "hexadecimal digits.\nthmtool new: \"wall.gif\" is damaged.\n"}));
+  const ToolRun warned =
+      runTool({"edit", theme, theme, "--set", "Title=0000FF", "--tag", "Theme_name=\""});
+  EXPECT_EQ(warned, (ToolRun{AllWell, "",
+                             "thmtool edit: \"Theme_name\" will be read as \"\" and not as "
+                             "\"\"\".\nthmtool edit: \"wall.gif\" is damaged.\n"}));
 }
 
 TEST_F(Check, GoesOnAfterAThemeThatCannotBeRead) {
