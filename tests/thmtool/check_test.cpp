@@ -175,6 +175,11 @@ TEST_F(Check, FindsPicturesThatPhonesDoNotShow) {
       {"cut off", gif().chopped(40), damaged, damaged},
       {"no end", gif().chopped(1), damaged, damaged},
       {"no frame", gif().first(25) + ';', damaged, damaged},
+      {"wide screen, small frame", gif().replace(6, 2, "\xFF\xFF"),
+       damaged + "|error: Background_image: \"back.gif\" has 65535x80 pixels and must have at most "
+                 "101x80.",
+       damaged +
+           "|error: Wallpaper_image: \"back.gif\" has 65535x80 pixels and must have 128x127."},
       {"wide frame", gif().replace(30, 2, "\xFF\xFF"), damaged, damaged},
       {"JPEG", encoded("jpg"), noGif, ""},
       {"progressive JPEG", encoded("jpg", true), noGif, progressive},
