@@ -75,13 +75,23 @@ class PictureCheck {
   QList<Finding> findings_;
 };
 
+CheckedTheme checkedTheme(const QString& path) {
+  return checkContents(readContents(path), QFileInfo(path).fileName());
+}
+
+QList<Finding> pictureFindings(const CheckedTheme& theme) {
+  return theme.schema == nullptr ? QList<Finding>() : PictureCheck(theme).run();
+}
+
 }  // namespace
 
 QList<Finding> checkTheme(const QString& themePath) {
-  const CheckedTheme theme =
-      checkContents(readContents(themePath), QFileInfo(themePath).fileName());
-  if (theme.schema == nullptr) return theme.findings;
-  return theme.findings + PictureCheck(theme).run();
+  const CheckedTheme theme = checkedTheme(themePath);
+  return theme.findings + pictureFindings(theme);
+}
+
+QList<Finding> checkPictures(const QString& themePath) {
+  return pictureFindings(checkedTheme(themePath));
 }
 
 }  // namespace quillane

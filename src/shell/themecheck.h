@@ -10,4 +10,7 @@ namespace quillane {
 /// theme that cannot be read has that as its finding.
 QList<Finding> checkTheme(const QString& themePath);
 
+/// Of these the findings about the pictures alone.
+QList<Finding> checkPictures(const QString& themePath);
+
 }  // namespace quillane

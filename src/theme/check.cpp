@@ -50,9 +50,7 @@ class ContentsCheck {
     theme_.findings += xml.findings;
     checkDoubles();
     checkUnnamed(xml.named);
-    const bool isTwo = theme_.schema->generation == Generation::Two;
-    theme_.findings +=
-        indexFindings(contents_, isTwo ? theme_.sources.at(gen2::TitleImageSmall) : QString());
+    theme_.findings += indexFindings(contents_, unlistedImage());
     checkSources();
     checkSize();
     return std::move(theme_);
@@ -91,15 +89,31 @@ class ContentsCheck {
     }
   }
 
+  /// The small title image of generation 2, unless its file is in the index for another slot.
+  QString unlistedImage() const {
+    if (theme_.schema->generation != Generation::Two) return {};
+    const QString& small = theme_.sources.at(gen2::TitleImageSmall);
+    const QList<ArchiveMember>& members = contents_.result.members;
+    const auto times =
+        std::count_if(members.begin(), members.end(),
+                      [&small](const ArchiveMember& member) { return member.name == small; });
+    const auto slots_ = std::count(theme_.sources.begin(), theme_.sources.end(), small);
+    return times == 1 && slots_ > 1 ? QString() : small;
+  }
+
   void checkUnnamed(const QSet<QString>& named) {
     QSet<QString> told;
     for (const ArchiveMember& member : contents_.result.members) {
       const QString& name = member.name;
       const bool isOurs = name.endsWith(".xml"_L1, Qt::CaseInsensitive) ||
                           name.compare(kIndexName, Qt::CaseInsensitive) == 0;
-      if (isOurs || named.contains(name) || told.contains(name)) continue;
+      if (isOurs || told.contains(name)) continue;
       told.insert(name);
-      add(Severity::Note, u"No element names the file %1."_s.arg(quoted(name)));
+      if (!named.contains(name))
+        add(Severity::Note, u"No element names the file %1."_s.arg(quoted(name)));
+      else if (name == kNoImage)
+        add(Severity::Error,
+            u"%1 stands for no image; the file of that name is not shown."_s.arg(quoted(name)));
     }
   }
 

@@ -43,7 +43,7 @@ struct CheckedXml {
   ThemeValues values{Generation::Two};  ///< Colours alone.
   /// For each image slot the file that it shows; empty for none or for a value that names no file.
   std::vector<QString> sources;
-  QSet<QString> named;  ///< All files that an element names.
+  QSet<QString> named;  ///< All files that an element names, and what stands for none.
   QList<Finding> findings;
 };
 

@@ -28,9 +28,9 @@ constexpr PassedWords kPassedWords[] = {
 QList<Finding> caseFindings(const QMap<QString, QStringList>& alike) {
   QList<Finding> findings;
   for (const QStringList& names : alike)
-    if (names.size() > 1)
-      findings += {Severity::Warning, u"%1 and %2 differ in letter case only."_s.arg(
-                                          quoted(names[0]), quoted(names[1]))};
+    for (const QString& name : names.sliced(1))
+      findings += {Severity::Warning,
+                   u"%1 and %2 differ in letter case only."_s.arg(quoted(names[0]), quoted(name))};
   return findings;
 }
 
@@ -67,7 +67,7 @@ QList<Finding> entryFindings(const QStringList& entries, const QList<ArchiveMemb
     const QString entry = u"%1 <%2>"_s.arg(member.name, QString::number(member.size));
     if (entries.value(next) == entry)
       ++next;
-    else if (member.name != mayBeUnlisted)
+    else if (member.name != mayBeUnlisted || entries.value(next).startsWith(member.name + " <"_L1))
       return {indexFinding(next < entries.size() ? u"says %1 where %2 belongs"_s.arg(
                                                        quoted(entries[next]), quoted(entry))
                                                  : u"ends before %1"_s.arg(quoted(entry)))};

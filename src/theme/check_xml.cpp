@@ -30,6 +30,7 @@ QString listed(const QStringList& names) {
 struct Written {
   int times = 0;
   QString value;
+  bool isHidden = true;  ///< It stands in comments alone.
 };
 
 /// Looks at the elements of one theme.
@@ -50,7 +51,8 @@ class XmlCheck {
     for (const ColorElement& color : schema_.colors)
       checkColor(color, index++);
     for (const ThemeTag& tag : kThemeTags)
-      isReadAsWritten(tag.element, written_.value(tag.element).value);
+      if (written_.contains(tag.element) || !unknown_.contains(tag.element))
+        isReadAsWritten(tag.element, written_.value(tag.element).value);
     checkElements();
     checked_.findings += closeColorFindings(checked_.values);
     return std::move(checked_);
@@ -69,6 +71,7 @@ class XmlCheck {
     if (isKnown) {
       Written& element = written_[tag.name.toString()];
       if (element.times++ == 0) element.value = tag.value.toString();
+      element.isHidden &= tag.inComment;
     } else if (!tag.inComment && tag.name == schema_.root) {
       hasRoot_ = true;
     } else if (!tag.inComment) {
@@ -119,9 +122,14 @@ class XmlCheck {
     if (!missing_.isEmpty())
       add(Severity::Warning, u"Colours that are missing: %1."_s.arg(listed(missing_)));
     QStringList doubled;
-    for (auto element = written_.cbegin(); element != written_.cend(); ++element)
+    QStringList hidden;
+    for (auto element = written_.cbegin(); element != written_.cend(); ++element) {
       if (element->times > 1) doubled += element.key();
+      if (element->isHidden && !isRow(kThemeTags, element.key())) hidden += element.key();
+    }
     tellNames(doubled, u"Elements that come again, of which the first counts: %1."_s);
+    tellNames(hidden,
+              u"Elements that stand in a comment, which only some readers look into: %1."_s);
     tellNames(QStringList(unknown_.cbegin(), unknown_.cend()), u"Elements that are unknown: %1."_s);
   }
 

@@ -56,7 +56,7 @@ void applyEdits(EditedTheme& theme, const EditOptions& options) {
   for (const Assignment& image : options.images)
     theme.values.setImage(
         placeOf(image, schema, schema.images, u"image"_s),
-        image.text.isEmpty() ? QString() : QFileInfo(image.text).absoluteFilePath());
+        image.text.isEmpty() ? QString() : QFileInfo(pathOf(image.text)).absoluteFilePath());
   for (const Assignment& image : options.images) {
     const int slot = rowOfElement(schema.images, image.element);
     // An earlier picture of the same slot is not there any more.
@@ -85,7 +85,8 @@ int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString
                                [&](const Fault& fault) { streams.complain(fault.description()); });
   // What was warned of would be found once more in the archive, in other words.
   if (saved)
-    tellFindings(warnings.isEmpty() ? checkTheme(themePath) : closeColorFindings(theme.values),
+    tellFindings(warnings.isEmpty() ? checkTheme(themePath)
+                                    : closeColorFindings(theme.values) + checkPictures(themePath),
                  streams);
   return saved ? AllWell : NotDone;
 }

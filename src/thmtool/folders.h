@@ -10,6 +10,12 @@
 
 namespace quillane {
 
+/// The path that a word of the command line means. The toolkit takes one with a colon in front for
+/// something built into the program.
+inline QString pathOf(const QString& word) {
+  return word.startsWith(QLatin1Char(':')) ? QLatin1String("./") + word : word;
+}
+
 /// Makes a folder that is to be written to where it is missing. Throws `Fault`.
 inline void makeOutputFolder(const QString& folder) {
   if (!folder.isEmpty() && QDir().mkpath(folder)) return;

@@ -16,14 +16,14 @@ QString UnreadableTheme::complaint() const {
 }
 
 QList<ArchiveMember> extractTheme(const QString& path, const QString& folder) {
-  const ArchiveResult result = extractArchive(path, folder);
+  const ArchiveResult result = extractArchive(pathOf(path), folder);
   if (result.code == 0) return result.members;
-  throw UnreadableTheme(path, archiveError(result.code, QFileInfo(path).fileName()));
+  throw UnreadableTheme(path, archiveError(result.code, QFileInfo(pathOf(path)).fileName()));
 }
 
 OpenedTheme openTheme(const QString& path, const FaultReporter& report) {
   OpenedTheme opened{.folder = makeWorkFolder()};
-  opened.fileName = QFileInfo(path).fileName();
+  opened.fileName = QFileInfo(pathOf(path)).fileName();
   opened.members = extractTheme(path, opened.folder.path());
   std::optional<LoadedTheme> theme = loadTheme(opened.folder.path(), opened.states, report);
   if (!theme) throw UnreadableTheme(path, missingXmlError(opened.fileName));

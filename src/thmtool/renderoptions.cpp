@@ -3,6 +3,7 @@
 #include "thmtool/renderoptions.h"
 
 #include "theme/files.h"
+#include "thmtool/folders.h"
 #include "thmtool/wholenumber.h"
 
 #include <QCommandLineParser>
@@ -112,7 +113,7 @@ std::optional<quint32> readSeed(const QCommandLineParser& given) {
 }
 
 QString readLanguage(const QCommandLineParser& given) {
-  QString file = given.value(u"language"_s);
+  QString file = pathOf(given.value(u"language"_s));
   if (given.isSet(u"language"_s)) readFile(file);  // throws where it cannot be read
   return file;
 }
@@ -143,8 +144,8 @@ RenderOptions readRenderOptions(const QCommandLineParser& given) {
   RenderOptions options;
   options.settings = readSettings(given);
   if (given.isSet(u"screens"_s)) options.screens = given.value(u"screens"_s).split(u',');
-  options.folder = given.isSet(u"out"_s) ? given.value(u"out"_s) : u"."_s;
-  if (given.isSet(u"sheet"_s)) options.sheet = given.value(u"sheet"_s);
+  options.folder = given.isSet(u"out"_s) ? pathOf(given.value(u"out"_s)) : u"."_s;
+  if (given.isSet(u"sheet"_s)) options.sheet = pathOf(given.value(u"sheet"_s));
   if (given.isSet(u"scale"_s))
     options.scale = static_cast<int>(numberWithin(given.value(u"scale"_s), 1, 16, u"scale"_s));
   return options;

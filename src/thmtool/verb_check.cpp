@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/themecheck.h"
+#include "thmtool/folders.h"
 #include "thmtool/verbs.h"
 
 #include <QCommandLineParser>
@@ -17,7 +18,7 @@ constexpr QLatin1String kSeverityWords[] = {"error"_L1, "warning"_L1, "note"_L1}
 int runCheck(const QCommandLineParser& given, const Streams& streams) {
   int status = AllWell;
   for (const QString& path : given.positionalArguments()) {
-    for (const Finding& finding : checkTheme(path)) {
+    for (const Finding& finding : checkTheme(pathOf(path))) {
       streams.print(
           printable(u"%1: %2: %3"_s.arg(
               path, kSeverityWords[static_cast<std::size_t>(finding.severity)], finding.text)) +

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "thmtool/editedtheme.h"
+#include "thmtool/folders.h"
 #include "thmtool/openedtheme.h"
 #include "thmtool/reporter.h"
 #include "thmtool/verbs.h"
@@ -28,7 +29,7 @@ int runEdit(const QCommandLineParser& given, const Streams& streams) {
   const OpenedTheme opened = openTheme(words.at(0), report);
   EditedTheme theme{opened.theme.values, tagsOf(opened.theme, report)};
   applyEdits(theme, options);
-  return saveEdited(theme, &opened.theme.values, words.at(1), options, streams);
+  return saveEdited(theme, &opened.theme.values, pathOf(words.at(1)), options, streams);
 }
 
 }  // namespace

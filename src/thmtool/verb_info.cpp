@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "theme/parsexml.h"
 #include "theme/tags.h"
+#include "thmtool/folders.h"
 #include "thmtool/jsonwriter.h"
 #include "thmtool/openedtheme.h"
 #include "thmtool/reporter.h"
@@ -167,7 +168,7 @@ int runInfo(const QCommandLineParser& given, const Streams& streams) {
   try {
     streams.write(asJson(gather(openTheme(path, report), report)));
   } catch (const UnreadableTheme& error) {
-    streams.write(asJson(QFileInfo(path).fileName(), error));
+    streams.write(asJson(QFileInfo(pathOf(path)).fileName(), error));
     return NotDone;
   }
   return AllWell;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "thmtool/editedtheme.h"
+#include "thmtool/folders.h"
 #include "thmtool/verbs.h"
 
 #include <QCommandLineParser>
@@ -22,7 +23,7 @@ int runNew(const QCommandLineParser& given, const Streams& streams) {
   EditedTheme theme{ThemeValues(readGeneration(words.at(0)))};
   const EditOptions options = readEditOptions(given);
   applyEdits(theme, options);
-  return saveEdited(theme, nullptr, words.at(1), options, streams);
+  return saveEdited(theme, nullptr, pathOf(words.at(1)), options, streams);
 }
 
 }  // namespace

@@ -22,6 +22,8 @@ void packWithIndex(const QString& themePath, const QStringList& files) {
 
 int runPack(const QCommandLineParser& given, const Streams&) {
   QStringList files = given.positionalArguments();
+  for (QString& file : files)
+    file = pathOf(file);
   const QString themePath = files.takeFirst();
   if (given.isSet(u"index"_s))
     packWithIndex(themePath, files);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "thmtool/folders.h"
 #include "thmtool/openedtheme.h"
 #include "thmtool/rendering.h"
 #include "thmtool/reporter.h"
@@ -31,7 +32,7 @@ int runThumbnail(const QCommandLineParser& given, const Streams& streams) {
   const OpenedTheme opened = openTheme(words.at(0), report);
   const RenderedScreen standby =
       renderScreens(opened, RenderSettings(), {u"standby"_s}, report).front();
-  savePng(fitted(standby.image, size), words.at(1));
+  savePng(fitted(standby.image, size), pathOf(words.at(1)));
   if (standby.fault.isEmpty()) return AllWell;
   streams.complain(
       u"\"%1\": The screen is painted in part only: %2"_s.arg(words.at(0), standby.fault));

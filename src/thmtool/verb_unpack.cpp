@@ -16,7 +16,7 @@ namespace {
 
 int runUnpack(const QCommandLineParser& given, const Streams&) {
   const QString theme = given.positionalArguments().at(0);
-  const QString folder = given.positionalArguments().at(1);
+  const QString folder = pathOf(given.positionalArguments().at(1));
   const bool isNew = !QFileInfo::exists(folder);
   makeOutputFolder(folder);
   try {

@@ -226,6 +226,7 @@ const Hindrance kHindrances[] = {
 
 TEST_F(Faults, RealOnesLeaveWhatWasThere) {
   const SmallDisk disk(makeFolder("t"));
+  if (!disk.isMounted()) std::cout << "no full disk: a small one cannot be mounted here\n";
   for (const Hindrance& hindrance : kHindrances)
     for (const SavePath& row : savePaths()) {
       SCOPED_TRACE(testing::Message() << row.name << ", " << hindrance.name);

@@ -64,6 +64,10 @@ void parsexmlTarget(QByteArrayView bytes) {
   expect(xml.size() <= 5 * raw.size(), "repairing does not swell the text");
   expect(generationOf(xml) == generationOf(raw), "repairing keeps the generation");
 
+  const CheckedXml checked = checkXml(raw);
+  expect(checked.sources.size() == schemaOf(generationOf(xml)).images.size(), "all slots checked");
+  expectBrief(checked.findings);
+
   QString longText = raw;
   if (!raw.isEmpty() && raw.size() <= kShort) longText = raw.repeated(kLong / raw.size());
   for (const QString& name : elementNames(schemaOf(generationOf(xml)))) {
@@ -76,6 +80,7 @@ void parsexmlTarget(QByteArrayView bytes) {
     expect(faults <= xml.count(name), "at most a fault for each match");
     ParseXML(name, longText, [](const Fault&) {});
   }
+  checkXml(longText);
 }
 
 }  // namespace quillane

@@ -4,6 +4,7 @@
 #include "preview/picture.h"
 #include "shell/converter.h"
 #include "shell/imagerules.h"
+#include "shell/picturefacts.h"
 #include "theme/fault.h"
 
 #include <algorithm>
@@ -68,6 +69,11 @@ void pictureTarget(QByteArrayView bytes) {
     expectMasked(*picture);
     expectSavable(picture->image(), scratch.path(u"saved"_s));
   }
+
+  const PictureFacts facts = pictureFacts(bytes.toByteArray());
+  if (!facts.isDamaged && facts.isBaseline && facts.form != PictureForm::Other)
+    expect(picture && picture->image().size() == facts.size,
+           "what is not damaged can be shown, as large as it is told to be");
 
   const std::optional<QSize> screen = IsGifFile(path);
   for (const Generation generation : {Generation::Two, Generation::ThreeG}) {

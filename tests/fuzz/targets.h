@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "theme/check.h"
+
 #include <QByteArrayView>
 #include <QDir>
 #include <QFile>
@@ -23,6 +25,13 @@ void themeTarget(QByteArrayView bytes);     ///< As an archive, up to the loaded
 /// Ends a target that does not hold.
 inline void expect(bool holds, const char* property) {
   if (!holds) throw std::logic_error(property);
+}
+
+/// Each finding of a check says something, however long what it tells of is.
+inline void expectBrief(const QList<Finding>& findings) {
+  constexpr qsizetype kLongest = 4096;
+  for (const Finding& finding : findings)
+    expect(!finding.text.isEmpty() && finding.text.size() <= kLongest, "a finding of some words");
 }
 
 /// Files for the readers that take a path, in memory where TMPDIR lies there.

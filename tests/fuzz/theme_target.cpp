@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/targets.h"
+#include "shell/themecheck.h"
 #include "theme/archive_reader.h"
 #include "theme/contrast.h"
 #include "theme/load.h"
@@ -170,6 +171,9 @@ void themeTarget(QByteArrayView bytes) {
   expectMembersIn(work.path(), extracted);
   expectSameListing(path, extracted);
   expectPackable(work.path());
+  const QList<Finding> findings = checkTheme(path);
+  expect(extracted.code == Success || !findings.isEmpty(), "a finding for what cannot be read");
+  expectBrief(findings);
 
   ImageStates states{};
   const std::optional<LoadedTheme> theme = loadTheme(work.path(), states, [](const Fault&) {});

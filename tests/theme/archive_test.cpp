@@ -86,6 +86,7 @@ TEST(ReadArchive, TellsEachFaultByItsCode) {
       {"first checksum wrong", TarBuilder().header({.name = "a", .badChecksum = true}).end(),
        NoArchive, 0},
       {"garbage between members", twoFiles().padded("garbage").file("c", "c"), BadChecksum, 2},
+      {"bzip2", TarBuilder().raw("BZh91AY&SY").end(), WrongCompression, 0},
       {"xz", TarBuilder().raw("\xFD\x37zXZ").end(), WrongCompression, 0},
       {"zstd", TarBuilder().raw("\x28\xB5\x2F\xFD").end(), WrongCompression, 0},
       {"zip", TarBuilder().raw("PK\x03\x04"), WrongCompression, 0},

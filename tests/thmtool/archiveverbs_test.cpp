@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillane developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/tinygif.h"
 #include "theme/archive.h"
 #include "thmtool/toolrun.h"
 
@@ -31,6 +32,29 @@ TEST_F(ArchiveVerbs, PackLeavesTheOldThemeWhenAFileIsMissing) {
     EXPECT_EQ(read("Old.thm"), QByteArray("old"));
     EXPECT_EQ(listOf(QString()), (QStringList{"Old.thm", "my.xml"}));
   }
+}
+
+TEST_F(ArchiveVerbs, NamesMayBeginWithAColon) {
+  const QString before = QDir::currentPath();
+  ASSERT_TRUE(QDir::setCurrent(path()));
+  write("./:b.gif", tinyGif({101, 80}, {0, 0, 101, 80}, 1));
+  const QStringList rows[] = {{"new", "2", ":a.thm", "--image", "Background_image=:b.gif"},
+                              {"edit", ":a.thm", ":a.thm"},
+                              {"check", ":a.thm"},
+                              {"unpack", ":a.thm", ":out"},
+                              {"pack", "--index", ":b.thm", ":out/:a.xml", ":b.gif"},
+                              {"check", ":b.thm"},
+                              {"render", ":b.thm", "--out", ":pictures", "--screens", "standby"},
+                              {"render", ":b.thm", "--sheet", ":sheet.png"},
+                              {"thumbnail", ":b.thm", ":small.png", "64"}};
+  for (const QStringList& row : rows)
+    EXPECT_EQ(runTool(row), kQuiet) << row.join(' ').toStdString();
+  EXPECT_EQ(runTool({"info", ":b.thm"}).out.substr(0, 14), "File: :b.thm\nG");
+  EXPECT_EQ(runTool({"check", ":gone.thm"}).out,
+            ":gone.thm: error: File \":gone.thm\" not found or no read permission.\n");
+  EXPECT_EQ(listOf(""), (QStringList{":a.thm", ":b.gif", ":b.thm", ":out", ":pictures",
+                                     ":sheet.png", ":small.png"}));
+  QDir::setCurrent(before);
 }
 
 TEST_F(ArchiveVerbs, UnpackAddsToItsFolder) {

@@ -85,6 +85,18 @@ TEST_F(Check, FindsWhatIsOddInTheText) {
       {"<Cursor ",
        "<Cursor Color=\"0x0000FF\"/><Cursor ",
        {"warning: Elements that come again, of which the first counts: Cursor."}},
+      {"<Background_image Source=\"back.gif\"/>",
+       "<!-- <Cursor Color=\"0x000000\"/> <Background_image Source=\"back.gif\"/> -->",
+       {"warning: Elements that come again, of which the first counts: Cursor.",
+        "warning: Elements that stand in a comment, which only some readers look into: "
+        "Background_image."}},
+      {"<Wapbrowser_tableborder ",
+       "<!-- <Wapbrowser_tableborder ",
+       {"warning: Elements that stand in a comment, which only some readers look into: "
+        "Wapbrowser_tableborder."}},
+      {"<Theme_name Name=\"Tea\"/>-->",
+       "--><Theme_name Name=\"Tea\"/>",
+       {"warning: Elements that are unknown: Theme_name."}},
       {"<Cursor ",
        "<Sound Source=\"a\"/><Theme_name Name=\"Tea\"/><Cursor ",
        {"warning: Elements that are unknown: Sound, Theme_name."}},
@@ -163,6 +175,11 @@ TEST_F(Check, FindsPicturesThatPhonesDoNotShow) {
       {"cut off", gif().chopped(40), damaged, damaged},
       {"no end", gif().chopped(1), damaged, damaged},
       {"no frame", gif().first(25) + ';', damaged, damaged},
+      {"wide screen, small frame", gif().replace(6, 2, "\xFF\xFF"),
+       damaged + "|error: Background_image: \"back.gif\" has 65535x80 pixels and must have at most "
+                 "101x80.",
+       damaged +
+           "|error: Wallpaper_image: \"back.gif\" has 65535x80 pixels and must have 128x127."},
       {"wide frame", gif().replace(30, 2, "\xFF\xFF"), damaged, damaged},
       {"JPEG", encoded("jpg"), noGif, ""},
       {"progressive JPEG", encoded("jpg", true), noGif, progressive},
@@ -195,6 +212,17 @@ TEST_F(Check, FindsWhatIsOddInTheArchive) {
   const auto passed = [&](const QByteArray& name, char type) {
     return TarBuilder(clean).header({.name = name, .type = type, .link = "x"}).end().bytes();
   };
+  // With a small title image and the end of an index, in which that image may be left out.
+  const QByteArray title = gif({101, 20});
+  const QByteArray titleSize = " <" + QByteArray::number(title.size()) + '>';
+  const auto titled = [&](const QByteArray& small, const QByteArray& indexEnd) {
+    QByteArray text = cleanXml();
+    text.replace("gif\"/>", "gif\"/><Title_image_small Source=\"" + small + "\"/>");
+    TarBuilder theme = TarBuilder().file("t.xml", text).file("back.gif", title);
+    if (small != "back.gif") theme.file(small, title);
+    const QByteArray index = "t.xml <" + QByteArray::number(text.size()) + '>' + indexEnd;
+    return theme.file("index.txt", index).end().bytes();
+  };
   const std::pair<QByteArray, QStringList> rows[] = {
       {TarBuilder(clean).cut(700).bytes(), {"error: Unexpected end of TAR file."}},
       {with("a.XML", ""),
@@ -209,10 +237,13 @@ TEST_F(Check, FindsWhatIsOddInTheArchive) {
         "note: No element names the file \"back.gif\"."}},
       {with("a.gif\n\x1B[2m\xE2\x80\xAE", "1"),
        {"note: No element names the file \"a.gif??[2m?\"."}},
-      {with("Back.gif", "1"),
+      {TarBuilder(clean).file("Back.gif", "1").file("BACK.gif", "1").end().bytes(),
        {"warning: The name \"Back.gif\" is not in lower case.",
+        "warning: The name \"BACK.gif\" is not in lower case.",
         "warning: \"back.gif\" and \"Back.gif\" differ in letter case only.",
-        "note: No element names the file \"Back.gif\"."}},
+        "warning: \"back.gif\" and \"BACK.gif\" differ in letter case only.",
+        "note: No element names the file \"Back.gif\".",
+        "note: No element names the file \"BACK.gif\"."}},
       {TarBuilder().file("dir/t.xml", cleanXml()).file("./back.gif", gif()).end().bytes(),
        {"warning: \"dir/t.xml\" lies in a folder; all files of a theme lie side by side.",
         "warning: \"./back.gif\" lies in a folder; all files of a theme lie side by side."}},
@@ -223,6 +254,13 @@ TEST_F(Check, FindsWhatIsOddInTheArchive) {
       {passed("dir/", '5'), {"note: \"dir/\" is a folder, which a theme does not need."}},
       {passed("a.gif", '2'), {"warning: \"a.gif\" is a link and is passed over."}},
       {passed("a.gif", '3'), {"warning: \"a.gif\" is a device or the like and is passed over."}},
+      {with("xxx.gif", gif()), {"note: No element names the file \"xxx.gif\"."}},
+      {TarBuilder()
+           .file("t.xml", cleanXml().replace("back.gif", "xxx.gif"))
+           .file("xxx.gif", gif())
+           .end()
+           .bytes(),
+       {"error: \"xxx.gif\" stands for no image; the file of that name is not shown."}},
       {with("dir/..", "1"), {"warning: \"dir/..\" is passed over: no file can have such a name."}},
       {with("big.gif", QByteArray(60'000, 'x')),
        {"note: No element names the file \"big.gif\".",
@@ -236,6 +274,12 @@ TEST_F(Check, FindsWhatIsOddInTheArchive) {
       {with("index.txt", xml), {"note: \"index.txt\" ends before \"" + picture + "\"."}},
       {with("index.txt", xml + "\r\n" + picture + "\r\na.gif <1>"),
        {"note: \"index.txt\" says \"a.gif <1>\", which is not in the archive."}},
+      {titled("small.gif", "\r\nback.gif" + titleSize), {}},
+      {titled("small.gif", "\r\nback.gif" + titleSize + "\r\nsmall.gif <1>"),
+       {"note: \"index.txt\" says \"small.gif <1>\" where \"small.gif" + titleSize +
+        "\" belongs."}},
+      {titled("back.gif", "\r\nback.gif" + titleSize), {}},
+      {titled("back.gif", ""), {"note: \"index.txt\" ends before \"back.gif" + titleSize + "\"."}},
   };
   for (const auto& [theme, findings] : rows)
     EXPECT_EQ(findingsOf(theme), findings) << findings.join('\n').toStdString();
@@ -284,6 +328,11 @@ TEST_F(Check, SavesTellWhatWillBeFound) {
   EXPECT_EQ(made, (ToolRun{AllWell, "",
                            "thmtool new: Title: \"0x\" is no colour, which is 0x and six "
                            "hexadecimal digits.\nthmtool new: \"wall.gif\" is damaged.\n"}));
+  const ToolRun warned =
+      runTool({"edit", theme, theme, "--set", "Title=0000FF", "--tag", "Theme_name=\""});
+  EXPECT_EQ(warned, (ToolRun{AllWell, "",
+                             "thmtool edit: \"Theme_name\" will be read as \"\" and not as "
+                             "\"\"\".\nthmtool edit: \"wall.gif\" is damaged.\n"}));
 }
 
 TEST_F(Check, GoesOnAfterAThemeThatCannotBeRead) {
