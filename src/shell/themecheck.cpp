@@ -81,11 +81,10 @@ class PictureCheck {
 
 }  // namespace
 
-QList<Finding> checkTheme(const QString& themePath) {
-  const CheckedTheme theme =
-      checkContents(readContents(themePath), QFileInfo(themePath).fileName());
-  if (theme.schema == nullptr) return theme.findings;
-  return theme.findings + PictureCheck(theme).run();
+CheckedTheme checkTheme(const QString& themePath) {
+  CheckedTheme theme = checkContents(readContents(themePath), QFileInfo(themePath).fileName());
+  if (theme.schema != nullptr) theme.findings += PictureCheck(theme).run();
+  return theme;
 }
 
 }  // namespace quillane

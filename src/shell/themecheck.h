@@ -7,7 +7,7 @@
 namespace quillane {
 
 /// All that a maker should know about a theme file before others get it, its pictures included. A
-/// theme that cannot be read has that as its finding.
-QList<Finding> checkTheme(const QString& themePath);
+/// theme that cannot be read has that as its finding, and no schema.
+CheckedTheme checkTheme(const QString& themePath);
 
 }  // namespace quillane
