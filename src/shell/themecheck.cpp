@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QMap>
 
+#include <utility>
+
 namespace quillane {
 
 using namespace Qt::StringLiterals;
@@ -75,23 +77,16 @@ class PictureCheck {
   QList<Finding> findings_;
 };
 
-CheckedTheme checkedTheme(const QString& path) {
-  return checkContents(readContents(path), QFileInfo(path).fileName());
-}
+}  // namespace
 
-QList<Finding> pictureFindings(const CheckedTheme& theme) {
+QList<Finding> checkPictures(const CheckedTheme& theme) {
   return theme.schema == nullptr ? QList<Finding>() : PictureCheck(theme).run();
 }
 
-}  // namespace
-
-QList<Finding> checkTheme(const QString& themePath) {
-  const CheckedTheme theme = checkedTheme(themePath);
-  return theme.findings + pictureFindings(theme);
-}
-
-QList<Finding> checkPictures(const QString& themePath) {
-  return pictureFindings(checkedTheme(themePath));
+CheckedTheme checkTheme(const QString& themePath) {
+  CheckedTheme theme = checkContents(readContents(themePath), QFileInfo(themePath).fileName());
+  theme.findings += checkPictures(theme);
+  return theme;
 }
 
 }  // namespace quillane

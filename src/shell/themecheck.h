@@ -7,10 +7,10 @@
 namespace quillane {
 
 /// All that a maker should know about a theme file before others get it, its pictures included. A
-/// theme that cannot be read has that as its finding.
-QList<Finding> checkTheme(const QString& themePath);
+/// theme that cannot be read has that as its finding, and no schema.
+CheckedTheme checkTheme(const QString& themePath);
 
-/// Of these the findings about the pictures alone.
-QList<Finding> checkPictures(const QString& themePath);
+/// Findings about the pictures alone of a theme that was read.
+QList<Finding> checkPictures(const CheckedTheme& theme);
 
 }  // namespace quillane

@@ -81,6 +81,14 @@ ArchiveResult readTheme(const QString& themePath, MemberSink& sink) {
 
 }  // namespace
 
+bool isIndexName(const QString& name) {
+  return name.compare(kIndexName, Qt::CaseInsensitive) == 0;
+}
+
+bool isXmlName(const QString& name) {
+  return name.endsWith(".xml"_L1, Qt::CaseInsensitive);
+}
+
 ArchiveResult extractArchive(const QString& themePath, const QString& folder) {
   FolderSink sink(folder);
   return readTheme(themePath, sink);

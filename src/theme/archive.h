@@ -16,6 +16,10 @@ class ThemeValues;
 /// Name of the member that lists the others.
 inline constexpr QLatin1String kIndexName{"index.txt"};
 
+/// Whether a member of this name is taken for the index, or for an XML; letter case does not count.
+bool isIndexName(const QString& name);
+bool isXmlName(const QString& name);
+
 /// A regular member of a theme archive as the reader takes it: bare name, size in
 /// bytes, and path.
 struct ArchiveMember {

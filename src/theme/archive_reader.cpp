@@ -190,7 +190,7 @@ class Walk {
 }  // namespace
 
 qint64 ArchiveLimits::ofMember(const QString& name) {
-  return name.endsWith(".xml"_L1, Qt::CaseInsensitive) ? kXmlMember : kMember;
+  return isXmlName(name) ? kXmlMember : kMember;
 }
 
 ArchiveResult readArchive(QIODevice& device, MemberSink& sink) {

@@ -63,7 +63,7 @@ class ContentsCheck {
   QString checkXmlNames() {
     QStringList xmls;
     for (const QString& name : theme_.files.keys())
-      if (name.endsWith(".xml"_L1, Qt::CaseInsensitive)) xmls += name;
+      if (isXmlName(name)) xmls += name;
     QString taken = themeXmlName(xmls);
     if (taken.isEmpty())
       add(Severity::Error, missingXmlError(fileName_).text);
@@ -79,9 +79,9 @@ class ContentsCheck {
     QSet<QString> told;
     for (qsizetype at = 0; at < contents_.bytes.size(); ++at) {
       const QString& name = contents_.result.members[at].name;
-      const auto slots_ = std::count(theme_.sources.begin(), theme_.sources.end(), name);
+      const auto uses = std::count(theme_.sources.begin(), theme_.sources.end(), name);
       const bool isSame = contents_.bytes[at] == theme_.files.value(name);
-      if ((++times[name] <= std::max<qsizetype>(slots_, 1) && isSame) || told.contains(name))
+      if ((++times[name] <= std::max<qsizetype>(uses, 1) && isSame) || told.contains(name))
         continue;
       told.insert(name);
       add(Severity::Warning,
@@ -97,17 +97,15 @@ class ContentsCheck {
     const auto times =
         std::count_if(members.begin(), members.end(),
                       [&small](const ArchiveMember& member) { return member.name == small; });
-    const auto slots_ = std::count(theme_.sources.begin(), theme_.sources.end(), small);
-    return times == 1 && slots_ > 1 ? QString() : small;
+    const auto uses = std::count(theme_.sources.begin(), theme_.sources.end(), small);
+    return times == 1 && uses > 1 ? QString() : small;
   }
 
   void checkUnnamed(const QSet<QString>& named) {
     QSet<QString> told;
     for (const ArchiveMember& member : contents_.result.members) {
       const QString& name = member.name;
-      const bool isOurs = name.endsWith(".xml"_L1, Qt::CaseInsensitive) ||
-                          name.compare(kIndexName, Qt::CaseInsensitive) == 0;
-      if (isOurs || told.contains(name)) continue;
+      if (isXmlName(name) || isIndexName(name) || told.contains(name)) continue;
       told.insert(name);
       if (!named.contains(name))
         add(Severity::Note, u"No element names the file %1."_s.arg(quoted(name)));

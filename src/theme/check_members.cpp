@@ -50,10 +50,6 @@ QStringList entriesOf(const QByteArray& index) {
   return entries;
 }
 
-bool isIndex(const QString& name) {
-  return name.compare(kIndexName, Qt::CaseInsensitive) == 0;
-}
-
 Finding indexFinding(const QString& words) {
   return {Severity::Note, u"\"%1\" %2."_s.arg(kIndexName, words)};
 }
@@ -63,7 +59,7 @@ QList<Finding> entryFindings(const QStringList& entries, const QList<ArchiveMemb
                              const QString& mayBeUnlisted) {
   qsizetype next = 0;
   for (const ArchiveMember& member : members) {
-    if (isIndex(member.name)) continue;
+    if (isIndexName(member.name)) continue;
     const QString entry = u"%1 <%2>"_s.arg(member.name, QString::number(member.size));
     if (entries.value(next) == entry)
       ++next;
@@ -103,7 +99,7 @@ QList<Finding> memberFindings(const ArchiveResult& archive) {
 QList<Finding> indexFindings(const ArchiveContents& contents, const QString& mayBeUnlisted) {
   const QList<ArchiveMember>& members = contents.result.members;
   for (qsizetype at = members.size() - 1; at >= 0; --at)
-    if (isIndex(members[at].name))
+    if (isIndexName(members[at].name))
       return entryFindings(entriesOf(contents.bytes[at]), members, mayBeUnlisted);
   return {};
 }

@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillane {
 
@@ -52,7 +53,7 @@ class XmlCheck {
       checkColor(color, index++);
     for (const ThemeTag& tag : kThemeTags)
       if (written_.contains(tag.element) || !unknown_.contains(tag.element))
-        isReadAsWritten(tag.element, written_.value(tag.element).value);
+        checkReading(tag.element, written_.value(tag.element).value);
     checkElements();
     checked_.findings += closeColorFindings(checked_.values);
     return std::move(checked_);
@@ -81,8 +82,9 @@ class XmlCheck {
 
   void add(Severity severity, const QString& text) { checked_.findings += {severity, text}; }
 
-  /// Tells a misreading. A fault of the reader is told instead, once for all that meet it.
-  bool isReadAsWritten(QLatin1String element, const QString& meant) {
+  /// Tells when a reader finds something else than is meant, or meets a fault, of which the first
+  /// is told; true when it does neither.
+  bool checkReading(QLatin1String element, const QString& meant) {
     bool isFaulty = false;
     const QString trouble = misreading(element, text_, meant, [&](const Fault& fault) {
       if (!isFaulty) add(Severity::Error, fault.description());
@@ -96,7 +98,7 @@ class XmlCheck {
     const QString source = written_.value(image.element).value;
     checked_.sources.emplace_back();
     checked_.named.insert(source);
-    if (!isReadAsWritten(image.element, source) || source.isEmpty() || source == kNoImage) return;
+    if (!checkReading(image.element, source) || source.isEmpty() || source == kNoImage) return;
     if (namesNoFile(source))
       add(Severity::Error,
           u"%1: %2 cannot be the name of a file."_s.arg(image.element, quoted(source)));
@@ -110,7 +112,7 @@ class XmlCheck {
     const bool isWritten = element != written_.cend();
     const QString value = isWritten ? element->value : QString();
     if (!isWritten) missing_ += color.element;
-    const bool isSame = isReadAsWritten(color.element, value.mid(2));
+    const bool isSame = checkReading(color.element, value.mid(2));
     if (isSame) checked_.values.setColor(index, value.mid(2));
     if (isSame && isWritten && !kForm.match(value).hasMatch())
       add(Severity::Error, u"%1: %2 is no colour, which is 0x and six hexadecimal digits."_s.arg(

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "theme/load.h"
 
+#include "theme/archive.h"
 #include "theme/codepage.h"
 #include "theme/files.h"
 #include "theme/parsexml.h"
@@ -109,8 +110,7 @@ bool namesNoFile(const QString& name) {
 QString themeXmlName(const QStringList& names) {
   QString first;
   for (const QString& name : names) {
-    const bool isXml = name.endsWith(".xml"_L1, Qt::CaseInsensitive);
-    if (isXml && (first.isEmpty() || inNameOrder(name, first))) first = name;
+    if (isXmlName(name) && (first.isEmpty() || inNameOrder(name, first))) first = name;
   }
   return first;
 }

@@ -5,6 +5,7 @@
 #include <QLatin1String>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillane {
 

@@ -83,12 +83,14 @@ int saveEdited(const EditedTheme& theme, const ThemeValues* shown, const QString
                                 .compress = options.compress,
                                 .workFolder = folder.path()},
                                [&](const Fault& fault) { streams.complain(fault.description()); });
-  // What was warned of would be found once more in the archive, in other words.
-  if (saved)
-    tellFindings(warnings.isEmpty() ? checkTheme(themePath)
-                                    : closeColorFindings(theme.values) + checkPictures(themePath),
-                 streams);
-  return saved ? AllWell : NotDone;
+  if (!saved) return NotDone;
+  const CheckedTheme made = checkTheme(themePath);
+  const bool isReadable = made.schema != nullptr;
+  // What was warned of is found once more in the archive, in other words.
+  const bool isTold = isReadable && !warnings.isEmpty();
+  tellFindings(isTold ? closeColorFindings(theme.values) + checkPictures(made) : made.findings,
+               streams);
+  return isReadable ? AllWell : NotDone;
 }
 
 }  // namespace quillane

@@ -18,7 +18,8 @@ constexpr QLatin1String kSeverityWords[] = {"error"_L1, "warning"_L1, "note"_L1}
 int runCheck(const QCommandLineParser& given, const Streams& streams) {
   int status = AllWell;
   for (const QString& path : given.positionalArguments()) {
-    for (const Finding& finding : checkTheme(pathOf(path))) {
+    const CheckedTheme theme = checkTheme(pathOf(path));
+    for (const Finding& finding : theme.findings) {
       streams.print(
           printable(u"%1: %2: %3"_s.arg(
               path, kSeverityWords[static_cast<std::size_t>(finding.severity)], finding.text)) +

@@ -156,7 +156,6 @@ TEST_F(Faults, LeaveWhatWasThereAndAreTold) {
     std::cout << row.name << ": " << calls << " calls\n";
   }
   std::cout << "faults: " << faults << '\n';
-  RecordProperty("faults", faults);
 }
 
 TEST_F(Faults, KilledSavesLeaveTheOldFileOrTheNew) {
@@ -191,7 +190,6 @@ TEST_F(Faults, KilledSavesLeaveTheOldFileOrTheNew) {
     }
   }
   std::cout << "kills: " << kills << ", whole files left beside: " << leftovers << '\n';
-  RecordProperty("kills", kills);
 }
 
 /// What really keeps a save from its end, for as long as the returned object lives; null where the

@@ -71,6 +71,11 @@ TEST_F(ImageRules, SlotsTakeTheirSizes) {
   for (const auto& [generation, slot, size, taken] : rows)
     EXPECT_EQ(takesSize(schemaOf(generation).images[static_cast<std::size_t>(slot)], size), taken)
         << slot << ' ' << size.width() << ' ' << size.height();
+  const ImageElement& small = schemaOf(Generation::Two).images[gen2::TitleImageSmall];
+  EXPECT_EQ(imageDialogTitle(small), "Select title small image");
+  EXPECT_EQ(imageDimensionsText(small, "/a/b.gif", {100, 20}),
+            "The dimensions for title small image must be 101x20 pixels.\r\n\r\n"
+            "Selected image: \"b.gif\"\r\nDimensions: 100x20 pixels");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <QProcess>
 
+#include <algorithm>
 #include <iostream>
 #include <sys/resource.h>
 
@@ -25,7 +26,10 @@ class Hostile : public ToolTest {
   /// A run of the tool itself, that a fault of memory ends, in bounds.
   ToolRun run(const QStringList& words) const {
     QProcess tool;
-    tool.setWorkingDirectory(makeFolder("at/some/depth"));
+    // The tool extracts below, so that whatever leaves its folder shows.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("TMPDIR", makeFolder("at/some/depth"));
+    tool.setProcessEnvironment(environment);
     tool.setChildProcessModifier([] {
       const rlimit most{kAddresses, kAddresses};
       if (kMemoryCounts) ::setrlimit(RLIMIT_AS, &most);
@@ -74,6 +78,7 @@ TEST_F(Hostile, ThemesAreToldOfAndHarmNothing) {
   std::cout << "most memory of a run: " << used.ru_maxrss / 1024 << " MiB\n";
   EXPECT_EQ(listOf(""), (QStringList{"at", "out.png", "theme.thm"})) << "escaped";
   EXPECT_EQ(listOf("at/some"), QStringList("depth"));
+  EXPECT_EQ(listOf("at/some/depth"), QStringList());
   EXPECT_FALSE(QFile::exists("/tmp/escaped.xml"));
 }
 
