@@ -238,7 +238,7 @@ TEST_F(Faults, RealOnesLeaveWhatWasThere) {
       const QString name = row.name;
       EXPECT_EQ(told.isEmpty(),
                 hindrance.name != QString("no permission") &&
-                    (name == "another name" || (name == "move" && !disk.isMounted())))
+                    (name == "another name" || (name.startsWith("move") && !disk.isMounted())))
           << told.toStdString();
       EXPECT_TRUE(told.isEmpty() || hindrance.name != QString("full disk") ||
                   told.contains("No room") || told.contains("Disk full.") || told.endsWith("/17"))
@@ -279,6 +279,9 @@ TEST_F(Faults, VanishingTargetsAreTold) {
                                             return 0;
                                           }});
         if (result.acts == 0) break;
+        // The toolkit gives a new file the rights of what lay there: of such a link, none.
+        if (QFileInfo(path(target)).isFile())
+          QFile::setPermissions(path(target), QFile::Permissions(0x6644));
         const Content found = content();
         EXPECT_TRUE(!result.told.isEmpty() || wasNew || found.value(target) == after.value(target))
             << "untold";

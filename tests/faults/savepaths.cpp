@@ -150,8 +150,9 @@ SavePath toolPath(const char* name, const char* target, const char* words, bool 
     std::ostringstream err;
     QStringList arguments = QString(words).split(' ');
     const int status = runTool(arguments.replaceInStrings("%", at.path()), out, err);
-    EXPECT_EQ(status != AllWell, !err.str().empty());
-    return QString::fromStdString(err.str());
+    EXPECT_TRUE(status == AllWell || !err.str().empty());
+    // Findings in a theme that was saved are no fault of the save.
+    return status == AllWell ? QString() : QString::fromStdString(err.str());
   };
   return {.name = name, .target = target, .save = run, .several = several};
 }

@@ -24,7 +24,7 @@ inline std::vector<HostileTheme> hostileThemes() {
   constexpr int kMiB = 1 << 20;
   constexpr auto kDamaged = "Some files in ";
   constexpr auto kNoXml = "This theme does not contain an XML file.";
-  const auto number = [](quint32 value, int width) {  // as BMP, ICO and GIF have it
+  const auto number = [](quint64 value, int width) {  // as BMP, ICO and GIF have it
     QByteArray bytes;
     for (int at = 0; at < width; ++at)
       bytes += static_cast<char>(value >> 8 * at & 255);
