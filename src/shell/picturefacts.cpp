@@ -77,9 +77,9 @@ class GifWalk {
     if (DGifGetImageDesc(gif_.get()) != GIF_OK) return false;
     const GifImageDesc& frame = gif_->Image;
     facts_.isInterlaced = frame.Interlace;
-    if (facts_.size.isEmpty()) facts_.size = {frame.Width, frame.Height};
     hasFrame_ = frame.Width > 0 && frame.Height > 0 && !isTooLarge({frame.Width, frame.Height}) &&
                 !isTooLarge(facts_.size);
+    if (facts_.size.isEmpty()) facts_.size = {frame.Left + frame.Width, frame.Top + frame.Height};
     std::vector<GifPixelType> line(static_cast<std::size_t>(frame.Width));
     for (int y = 0; hasFrame_ && y < frame.Height; ++y)
       if (DGifGetLine(gif_.get(), line.data(), frame.Width) != GIF_OK) return false;
